@@ -1,0 +1,14 @@
+# What every target of this project is compiled with.
+add_library(wxbrg_options_of_compiler INTERFACE)
+target_include_directories(wxbrg_options_of_compiler INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(wxbrg_options_of_compiler INTERFACE
+  -Wall -Wextra -Wconversion -Wshadow -Werror
+  # Floating point is to give the same numbers on every machine.
+  -ffp-contract=off)
+if(WXBRG_TEST_BUILD)
+  target_compile_definitions(wxbrg_options_of_compiler INTERFACE WXBRG_TEST_BUILD)
+endif()
+if(WXBRG_SANITIZERS)
+  add_compile_options(-fsanitize=${WXBRG_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${WXBRG_SANITIZERS})
+endif()

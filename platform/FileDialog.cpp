@@ -1,0 +1,12 @@
+#include "platform/FileDialog.h"
+
+namespace wxbrg {
+
+std::string WithDefaultExtension(std::string name, const std::string& extension) {
+    const std::size_t separator = name.find_last_of("/\\");
+    const std::size_t lastPart = separator == std::string::npos ? 0 : separator + 1;
+    if (name.find('.', lastPart) == std::string::npos) name.append(".").append(extension);
+    return name;
+}
+
+}  // namespace wxbrg

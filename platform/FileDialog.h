@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace wxbrg {
+
+/// Flags of the file dialog; the value is their sum.
+namespace FileDialogFlag {
+inline constexpr std::int32_t overwritePrompt = 2;
+inline constexpr std::int32_t hideReadOnly = 4;
+inline constexpr std::int32_t showHelp = 16;
+inline constexpr std::int32_t pathMustExist = 2048;
+inline constexpr std::int32_t createPrompt = 8192;
+inline constexpr std::int32_t noReadOnlyReturn = 32768;
+inline constexpr std::int32_t explorer = 524288;
+}  // namespace FileDialogFlag
+
+/// What a save-file dialog starts with.
+struct FileDialogSettings {
+    std::int32_t flags = 0;
+    std::string initialDirectory;  ///< empty: the dialog's own choice
+    std::string fileName;
+    std::string filter;  ///< descriptions and patterns in turn, separated by "|"
+    std::string defaultExtension;
+    int filterIndex = 1;  ///< from 1
+};
+
+class FileDialog {
+  public:
+    virtual ~FileDialog() = default;
+    /// Asks for the name of a file to save. Nothing when the user cancels.
+    virtual std::optional<std::string> AskSaveName(const FileDialogSettings& settings) = 0;
+};
+
+/// What a front end without a real dialog makes of a typed name: the default extension is added when the last
+/// part of the name holds no point.
+std::string WithDefaultExtension(std::string name, const std::string& extension);
+
+}  // namespace wxbrg

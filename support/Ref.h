@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+
+#include "support/Failure.h"
+
+namespace wxbrg {
+
+/// A shared reference that may be empty. It owns nothing: what it refers to belongs to a repository or to
+/// the pool of the run and outlives every reference. Going through an empty reference is failure 91.
+template <class T>
+class Ref {
+  public:
+    constexpr Ref() = default;
+    constexpr Ref(std::nullptr_t) {}
+    constexpr Ref(T* target) : target_(target) {}
+
+    /// Throws failure 91 when the reference is empty.
+    T* operator->() const {
+        if (target_ == nullptr) throw Failure(FailureKind::objectNotSet);
+        return target_;
+    }
+    /// Throws failure 91 when the reference is empty.
+    T& operator*() const { return *operator->(); }
+
+    constexpr explicit operator bool() const { return target_ != nullptr; }
+    /// The target, or null.
+    constexpr T* Get() const { return target_; }
+
+    friend constexpr bool operator==(Ref, Ref) = default;
+
+  private:
+    T* target_ = nullptr;
+};
+
+}  // namespace wxbrg

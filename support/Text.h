@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace wxbrg {
+
+// Text is UTF-8 in memory everywhere, and a character is a code point. "Blank" is U+0020 alone.
+
+/// Number of characters.
+std::size_t CharacterCount(std::string_view text);
+
+/// The first `count` characters; the whole text when it has no more.
+std::string_view Left(std::string_view text, std::size_t count);
+
+/// The text without its last `count` characters. Throws failure 5 when it has fewer.
+std::string_view WithoutLast(std::string_view text, std::size_t count);
+
+/// The text without blanks at its front.
+std::string_view TrimLeft(std::string_view text);
+/// The text without blanks at both ends.
+std::string_view Trim(std::string_view text);
+
+/// Every occurrence of `what` from the text's start becomes `by`; what a replacement brings is not looked at
+/// again. Binary and case-sensitive. An empty `what` changes nothing.
+std::string Replace(std::string_view text, std::string_view what, std::string_view by);
+
+/// Every run of blanks becomes one blank.
+std::string CollapseBlanks(std::string_view text);
+
+/// Each line break (CR LF, CR or LF) becomes one blank.
+std::string RemoveLineBreaks(std::string_view text);
+
+/// Each character becomes its upper case by Unicode's simple mapping, one for one, whatever the user's
+/// locale: "ß" stays, "ᾳ" becomes "ᾼ". Bytes that are no UTF-8 stay as they are.
+std::string UpperCase(std::string_view text);
+
+/// Appends a code point as UTF-8; one that is none (a surrogate, beyond 10FFFF) as U+FFFD.
+void AppendCharacter(std::string& text, char32_t character);
+
+/// The length in bytes of the character at the start of a text that is not empty: 1 to 4. A byte that begins
+/// no character counts as one.
+std::size_t CharacterLength(std::string_view text);
+
+/// Whether the text is valid UTF-8.
+bool IsUtf8(std::string_view text);
+
+/// The character at `position` (in bytes, below the text's size), which then stands behind it. A byte that
+/// begins no valid character is read as U+FFFD and passed over alone.
+char32_t TakeCharacter(std::string_view text, std::size_t& position);
+
+}  // namespace wxbrg
