@@ -15,8 +15,8 @@ struct UnknownType {
     enum class Kind { model, object, connection, attribute, symbol };
     Kind kind;
     std::string apiName;
-    std::int32_t number = 0;       ///< the number it was given, 100000 or more
-    std::uint64_t occurrences = 0; ///< how often the export names it
+    std::int32_t number = 0;        ///< the number it was given, 100000 or more
+    std::uint64_t occurrences = 0;  ///< how often the export names it
 };
 
 /// What was left out at loading because it refers to nothing, by sort of reference.

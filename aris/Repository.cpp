@@ -12,8 +12,9 @@ void ARISObjDefList::Sort(std::int16_t firstKey, std::int16_t secondKey, std::in
     named.reserve(static_cast<std::size_t>(Count()));
     for (const ARISObjDef& item : *this) named.emplace_back(item->Name(locale), item);
     // The order of UTF-8 bytes is the order of code points.
-    std::stable_sort(named.begin(), named.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::stable_sort(named.begin(), named.end(), [](const auto& a, const auto& b) {
+        return a.first < b.first;
+    });
     std::vector<ARISObjDef> sorted;
     sorted.reserve(named.size());
     for (const auto& [name, item] : named) sorted.push_back(item);

@@ -35,10 +35,10 @@ struct RunRequest {
 /// How a run ended.
 enum class RunEnding {
     normal,
-    endedByFailure,   ///< the failure's number says that the run ends
-    unknownFailure,   ///< a failure whose number nothing is known of
+    endedByFailure,  ///< the failure's number says that the run ends
+    unknownFailure,  ///< a failure whose number nothing is known of
     noLanguageLibrary,
-    error,            ///< the program itself failed: a slip, or a failure before failures can be handled
+    error,  ///< the program itself failed: a slip, or a failure before failures can be handled
 };
 
 /// A count for each severity.

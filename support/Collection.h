@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -77,17 +78,21 @@ class Collection {
     /// A place in a walk: it asks the collection at each step, so that appended entries are met.
     class Walk {
       public:
-        using Value = std::conditional_t<std::is_trivially_copyable_v<T>, T, const T&>;
+        using iterator_category = std::input_iterator_tag;
+        using value_type = T;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const T*;
+        using reference = std::conditional_t<std::is_trivially_copyable_v<T>, T, const T&>;
 
         Walk(const Collection& collection, std::size_t position)
             : collection_(&collection), position_(position) {}
-        Value operator*() const { return collection_->entries_[position_].item; }
+        reference operator*() const { return collection_->entries_[position_].item; }
         Walk& operator++() {
             ++position_;
             return *this;
         }
-        /// Compared with `end()` only: true while there is an entry left.
-        bool operator!=(const Walk&) const { return position_ < collection_->entries_.size(); }
+        /// Compared with `end()` only: whether there is no entry left at this moment.
+        bool operator==(const Walk&) const { return position_ >= collection_->entries_.size(); }
 
       private:
         const Collection* collection_;

@@ -6,19 +6,32 @@ namespace wxbrg {
 
 std::string_view RunTimeWords(std::int32_t number) {
     switch (number) {
-        case FailureKind::invalidCall: return "invalid call or missing key";
-        case FailureKind::overflow: return "overflow";
-        case FailureKind::outOfMemory: return "out of memory";
-        case FailureKind::typeMismatch: return "type mismatch";
-        case FailureKind::outOfStackSpace: return "out of stack space";
-        case FailureKind::fileNotFound: return "file not found";
-        case FailureKind::diskFull: return "disk full";
-        case FailureKind::fileAccess: return "file access error";
-        case FailureKind::pathNotFound: return "path not found";
-        case FailureKind::objectNotSet: return "object not set";
-        case FailureKind::invalidFileFormat: return "invalid file format";
-        case FailureKind::duplicateKey: return "duplicate key";
-        default: return {};
+        case FailureKind::invalidCall:
+            return "invalid call or missing key";
+        case FailureKind::overflow:
+            return "overflow";
+        case FailureKind::outOfMemory:
+            return "out of memory";
+        case FailureKind::typeMismatch:
+            return "type mismatch";
+        case FailureKind::outOfStackSpace:
+            return "out of stack space";
+        case FailureKind::fileNotFound:
+            return "file not found";
+        case FailureKind::diskFull:
+            return "disk full";
+        case FailureKind::fileAccess:
+            return "file access error";
+        case FailureKind::pathNotFound:
+            return "path not found";
+        case FailureKind::objectNotSet:
+            return "object not set";
+        case FailureKind::invalidFileFormat:
+            return "invalid file format";
+        case FailureKind::duplicateKey:
+            return "duplicate key";
+        default:
+            return {};
     }
 }
 

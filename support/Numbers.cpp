@@ -10,7 +10,9 @@ namespace wxbrg {
 
 namespace {
 
-bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
+bool IsDigit(char byte) {
+    return byte >= '0' && byte <= '9';
+}
 
 /// Reads a number as `IsNumeric` tells and keeps it in the form that std::from_chars takes.
 class NumberReader {

@@ -16,7 +16,9 @@ class Pool {
     template <class T, class... Arguments>
     Ref<T> Create(Arguments&&... arguments) {
         T* object = new T(std::forward<Arguments>(arguments)...);
-        objects_.emplace_back(object, [](void* owned) { delete static_cast<T*>(owned); });
+        objects_.emplace_back(object, [](void* owned) {
+            delete static_cast<T*>(owned);
+        });
         return object;
     }
 

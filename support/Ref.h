@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 
 #include "support/Failure.h"
 
@@ -14,6 +15,10 @@ class Ref {
     constexpr Ref() = default;
     constexpr Ref(std::nullptr_t) {}
     constexpr Ref(T* target) : target_(target) {}
+    /// A reference to a derived class, or to what may be changed, serves as one to its base.
+    template <class Other>
+    requires std::is_convertible_v<Other*, T*>
+    constexpr Ref(Ref<Other> other) : target_(other.Get()) {}
 
     /// Throws failure 91 when the reference is empty.
     T* operator->() const {

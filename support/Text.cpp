@@ -13,7 +13,9 @@ namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
 
-bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+bool IsContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
 
 /// Length and value of the valid character at `position`, length 0 where none begins.
 struct Decoded {
@@ -47,9 +49,10 @@ Decoded Decode(std::string_view text, std::size_t position) {
 
 char32_t UpperCase(char32_t character) {
     const auto* const end = std::end(upperCaseTable);
-    const auto* const found =
-        std::lower_bound(std::begin(upperCaseTable), end, character,
-                         [](const UpperCaseRow& row, char32_t wanted) { return row.last < wanted; });
+    const auto* const found = std::lower_bound(std::begin(upperCaseTable), end, character,
+                                               [](const UpperCaseRow& row, char32_t wanted) {
+                                                   return row.last < wanted;
+                                               });
     if (found == end || character < found->first) return character;
     if ((character - found->first) % found->step != 0) return character;
     return static_cast<char32_t>(static_cast<std::int32_t>(character) + found->distance);
@@ -72,6 +75,10 @@ char32_t TakeCharacter(std::string_view text, std::size_t& position) {
     return decoded.character;
 }
 
+std::string ValidUtf8(std::string_view text) {
+    return IsUtf8(text) ? std::string(text) : FromCharacters(ToCharacters(text));
+}
+
 bool IsUtf8(std::string_view text) {
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t length = Decode(text, position).length;
@@ -82,8 +89,11 @@ bool IsUtf8(std::string_view text) {
 }
 
 void AppendCharacter(std::string& text, char32_t character) {
-    if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) character = replacementCharacter;
-    const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+    if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF))
+        character = replacementCharacter;
+    const auto append = [&text](char32_t byte) {
+        text.push_back(static_cast<char>(byte));
+    };
     if (character < 0x80) {
         append(character);
     } else if (character < 0x800) {
@@ -99,6 +109,21 @@ void AppendCharacter(std::string& text, char32_t character) {
         append(0x80U | ((character >> 6U) & 0x3FU));
         append(0x80U | (character & 0x3FU));
     }
+}
+
+std::u32string ToCharacters(std::string_view text) {
+    std::u32string characters;
+    characters.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();)
+        characters.push_back(TakeCharacter(text, position));
+    return characters;
+}
+
+std::string FromCharacters(std::u32string_view characters) {
+    std::string text;
+    text.reserve(characters.size());
+    for (const char32_t character : characters) AppendCharacter(text, character);
+    return text;
 }
 
 std::size_t CharacterCount(std::string_view text) {
@@ -136,7 +161,8 @@ std::string Replace(std::string_view text, std::string_view what, std::string_vi
     std::string result;
     if (what.empty()) return std::string(text);
     std::size_t from = 0;
-    for (std::size_t found = text.find(what); found != std::string_view::npos; found = text.find(what, from)) {
+    for (std::size_t found = text.find(what); found != std::string_view::npos;
+         found = text.find(what, from)) {
         result.append(text.substr(from, found - from)).append(by);
         from = found + what.size();
     }

@@ -36,6 +36,11 @@ std::string RemoveLineBreaks(std::string_view text);
 /// locale: "ß" stays, "ᾳ" becomes "ᾼ". Bytes that are no UTF-8 stay as they are.
 std::string UpperCase(std::string_view text);
 
+/// The characters of a text, one code point each; a byte that is no UTF-8 becomes U+FFFD.
+std::u32string ToCharacters(std::string_view text);
+/// The text of code points.
+std::string FromCharacters(std::u32string_view characters);
+
 /// Appends a code point as UTF-8; one that is none (a surrogate, beyond 10FFFF) as U+FFFD.
 void AppendCharacter(std::string& text, char32_t character);
 
@@ -45,6 +50,9 @@ std::size_t CharacterLength(std::string_view text);
 
 /// Whether the text is valid UTF-8.
 bool IsUtf8(std::string_view text);
+
+/// The text with each byte that is no UTF-8 replaced by U+FFFD.
+std::string ValidUtf8(std::string_view text);
 
 /// The character at `position` (in bytes, below the text's size), which then stands behind it. A byte that
 /// begins no valid character is read as U+FFFD and passed over alone.

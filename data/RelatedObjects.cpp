@@ -1,0 +1,50 @@
+#include "data/RelatedObjects.h"
+
+#include "mapping/modMappingRule_lookups.h"
+#include "mapping/modMappingRule_rules.h"
+#include "run/Frame.h"
+
+namespace wxbrg {
+
+bool RelatedObjects::TakeStep(Frame& frame) {
+    if (!intermediates_.empty()) {
+        const ARISObjDef object = intermediates_.back();
+        intermediates_.pop_back();
+        Collection<ARISObjDef> ends;
+        for (const ARISObjDef& end : Find_Related_ARIS_ObjDef_Using_Mapping_Rule(ends, object, chained_))
+            reached_.insert(std::string(end->Guid()));
+        return true;
+    }
+    if (nextFrom_ > from_.Count()) return false;
+    const ARISObjDef object = from_.Item(nextFrom_);
+    const Collection<clsConnectionMapping>& mappings = FetchRule(frame, rule_)->ColConnectionMapping;
+    if (nextMapping_ > mappings.Count()) {
+        ++nextFrom_;
+        nextMapping_ = 1;
+        return true;
+    }
+    const clsConnectionMapping& mapping = mappings.Item(nextMapping_++);
+    if (object->TypeNum() != mapping.SourceObjTypeNum) return true;
+    Collection<ARISObjDef> steps;
+    Find_Related_ARIS_ObjDef(steps, object, mapping.CnxKind, mapping.CnxTypeNum, mapping.TargetObjTypeNum);
+    for (const ARISObjDef& step : steps) {
+        if (mapping.IsChainedConnection())
+            intermediates_.insert(intermediates_.begin(), step);
+        else
+            reached_.insert(std::string(step->Guid()));
+    }
+    chained_ = mapping.TargetObjRule;
+    return true;
+}
+
+bool RelatedObjects::LeadTo(const ARISObjDef& object) {
+    return Procedure("modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule",
+                     [&](Frame& frame) {
+                         while (!Knows(object))
+                             if (!TakeStep(frame)) return false;
+                         frame.KeepName();
+                         return true;
+                     });
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "aris/Repository.h"
+#include "support/Collection.h"
+
+namespace wxbrg {
+
+/// A walk over ARIS objects between two ends: what one connector stands for.
+class clsPath {
+  public:
+    ARISObjDef FROM_ARISObjectDefinition;
+    ARISObjDef TO_ARISObjectDefinition;
+    /// The objects between the two ends in walking order, by Guid; empty for a path of one step.
+    Collection<ARISObjDef> ColARISObjectDefinitionsOnPath;
+};
+
+}  // namespace wxbrg

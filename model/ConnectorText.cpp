@@ -1,0 +1,53 @@
+#include "model/ConnectorText.h"
+
+#include <optional>
+
+#include "model/ObjectProtocol.h"
+#include "model/clsACTIVITY.h"
+#include "model/clsPROCESS.h"
+#include "output/modWPXWriter.h"
+
+namespace wxbrg {
+
+std::string ConnectorKey(const ARISObjDef& from, const ARISObjDef& to) {
+    return std::string(from->Guid()).append("/").append(to->Guid());
+}
+
+std::string CitedName(const ARISObjDef& object) {
+    return Quoted(ConvertARISName(object->Name(gLocale), NameKind::activityName, ""));
+}
+
+std::string FromToText(const ARISObjDef& from, const ARISObjDef& to) {
+    const std::string first = CitedName(from);
+    return "FROM " + first + " TO " + CitedName(to);
+}
+
+void NoteConnector(std::int16_t severity, std::int32_t number, const ARISObjDef& from, const ARISObjDef& to) {
+    WriteNote(severity, number, from->Type(), from->Name(gLocale), to->Type(), to->Name(gLocale));
+}
+
+Collection<Ref<clsPath>> ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule) {
+    std::optional<Collection<Ref<clsPath>>> paths =
+        Find_Relating_Paths_Using_Mapping_Rule({}, from, to, rule);
+    return paths ? std::move(*paths) : Collection<Ref<clsPath>>();
+}
+
+void SetupConnectorDescription(std::string& description, const Collection<Ref<clsPath>>& paths) {
+    const std::string text = SetupPrintingOfConnectorAttribute(paths, "CONTROL_CONNECTOR_DESCRIPTION");
+    if (!text.empty()) description = Quoted(ConvertARISName(text, NameKind::description, ""));
+}
+
+bool ClosesLoop(FlowLoops& flow, const ARISObjDef& from, const ARISObjDef& to) {
+    const bool closes = flow.ClosesLoop(from->Guid(), to->Guid());
+    gFailureContext = flow.LastTestFound() ? "Retrieve collection member" : "";
+    return closes;
+}
+
+Ref<clsACTIVITY> CompleteActivity(const clsPROCESS& process, const ARISObjDef& object) {
+    if (!process.CreateActivitiesFinished) return nullptr;
+    const Ref<clsACTIVITY>* activity = process.Col_ACTIVITY.Find(object->Guid());
+    if (activity == nullptr || (*activity)->ARISObjectDefinition->Guid() != object->Guid()) return nullptr;
+    return *activity;
+}
+
+}  // namespace wxbrg

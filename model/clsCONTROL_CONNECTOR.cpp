@@ -1,0 +1,145 @@
+#include "model/clsCONTROL_CONNECTOR.h"
+
+#include "model/ConnectorText.h"
+#include "model/ObjectProtocol.h"
+#include "model/clsPROCESS.h"
+#include "model/modPoint.h"
+#include "output/modWPXWriter.h"
+#include "support/Numbers.h"
+
+namespace wxbrg {
+
+namespace {
+
+constexpr std::string_view typedCondition = "CONTROL_CONNECTOR_CONDITION";
+constexpr std::string_view comparedData = "EVENT_IS_COMPARED_WITH_DATA";
+
+/// A condition that compares the first of the data objects; empty where operator or value are missing.
+std::string Comparison(const ARISObjDef& event, const Collection<ARISObjDef>& data) {
+    const std::string compareOperator =
+        ConvertARISName(Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(event, "EVENT_COMPARE_OPERATOR"),
+                        NameKind::compareOperator, "");
+    if (compareOperator.empty()) return {};
+    std::string value = Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(event, "EVENT_COMPARE_VALUE");
+    if (value.empty()) return {};
+    if (!IsNumeric(value, DecimalSeparator())) value = "\"" + value + "\"";
+    std::string name = ConvertARISName(data.Item(1)->Name(gLocale), NameKind::memberName, "");
+    if (name.find(' ') != std::string::npos) name = "''" + name + "''";
+    if (data.Count() > 1) WriteNote(Severity::exclamation, 3120, event->Name(gLocale));
+    return name + " " + compareOperator + " " + value;
+}
+
+}  // namespace
+
+std::string clsCONTROL_CONNECTOR::Key() const {
+    return ConnectorKey(FROM_ARISObjectDefinition, TO_ARISObjectDefinition);
+}
+
+void clsCONTROL_CONNECTOR::FindARISObjectDefinitionsOnConnectorPaths() {
+    Procedure("clsCONTROL_CONNECTOR.FindARISObjectDefinitionsOnConnectorPaths", [&](Frame&) {
+        ColPath = ConnectorPaths(FROM_ARISObjectDefinition, TO_ARISObjectDefinition,
+                                 "FUNCTION_SENDS_CONTROL_TO_FUNCTION");
+        ConnectorPathsAvailable = true;
+    });
+}
+
+void clsCONTROL_CONNECTOR::SetupProperties() {
+    SetupOnce("clsCONTROL_CONNECTOR.SetupProperties", SetupFinished, "CONTROL CONNECTOR", Linking, [&] {
+        SetupProperty_DESCRIPTION();
+        SetupProperty_Linking();
+        SetupProperty_Condition();
+        SetupProperty_LAYOUT();
+    });
+}
+
+void clsCONTROL_CONNECTOR::SetupProperty_DESCRIPTION() {
+    Procedure("clsCONTROL_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
+        if (!gOptUseDescriptionAttr) return;
+        if (!ConnectorPathsAvailable) {
+            frame.Raise(2080);
+            return;
+        }
+        SetupConnectorDescription(DESCRIPTION, ColPath);
+    });
+}
+
+void clsCONTROL_CONNECTOR::SetupProperty_Linking() {
+    Procedure("clsCONTROL_CONNECTOR.SetupProperty_Linking", [&](Frame&) {
+        if (!IsLoopConnector()) Linking = FromToText(FROM_ARISObjectDefinition, TO_ARISObjectDefinition);
+    });
+}
+
+std::string clsCONTROL_CONNECTOR::ConditionOf(const ARISObjDef& object) {
+    std::string condition;
+    if (gOptTransitionConditions) condition = GetProperty_Condition(typedCondition, object);
+    if (condition.empty()) condition = GetProperty_Condition(comparedData, object);
+    return condition;
+}
+
+std::string clsCONTROL_CONNECTOR::ConditionOf(const clsPath& path) {
+    std::string joined;
+    for (const ARISObjDef& object : path.ColARISObjectDefinitionsOnPath) {
+        const std::string condition = ConditionOf(object);
+        if (!condition.empty()) joined.append(joined.empty() ? "" : " AND ").append(condition);
+    }
+    return joined;
+}
+
+void clsCONTROL_CONNECTOR::SetupProperty_Condition() {
+    Procedure("clsCONTROL_CONNECTOR.SetupProperty_Condition", [&](Frame& frame) {
+        if (!ConnectorPathsAvailable) {
+            frame.Raise(2080);
+            return;
+        }
+        std::string result;
+        std::string last;  // the last path's condition stays for a path without one
+        std::int32_t conditions = 0;
+        for (const Ref<clsPath>& path : ColPath) {
+            const std::string condition = ConditionOf(*path);
+            if (!condition.empty()) {
+                last = condition;
+                ++conditions;
+            }
+            if (conditions > 1)
+                result.append(" OR ").append(last);
+            else if (!condition.empty())
+                result = last;
+        }
+        if (!result.empty()) Condition = result;
+    });
+}
+
+std::string clsCONTROL_CONNECTOR::GetProperty_Condition(std::string_view RuleName, const ARISObjDef& object) {
+    return Procedure("clsCONTROL_CONNECTOR.GetProperty_Condition", [&](Frame&) -> std::string {
+        if (RuleName == typedCondition) {
+            if (!ARIS_ObjDef_Conforms_To_Mapping_Rule(object, "CONTROL_OBJECT")) return {};
+            return Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(object, RuleName);
+        }
+        if (RuleName != comparedData) return {};
+        Collection<ARISObjDef> data;
+        Find_Related_ARIS_ObjDef_Using_Mapping_Rule(data, object, RuleName);
+        return data.IsEmpty() ? std::string() : Comparison(object, data);
+    });
+}
+
+void clsCONTROL_CONNECTOR::SetupProperty_LAYOUT() {
+    Procedure("clsCONTROL_CONNECTOR.SetupProperty_LAYOUT", [&](Frame& frame) {
+        if (gOptUseCtrlConBendPoints)
+            AddBendPoint(frame, LAYOUT, ColPath, ConnectorPathsAvailable, FROM_ARISObjectDefinition,
+                         TO_ARISObjectDefinition, *PROCESS);
+    });
+}
+
+bool clsCONTROL_CONNECTOR::IsLoopConnector() const {
+    return Procedure("clsCONTROL_CONNECTOR.IsLoopConnector", [&](Frame&) {
+        return FROM_ARISObjectDefinition->Guid() == TO_ARISObjectDefinition->Guid();
+    });
+}
+
+bool clsCONTROL_CONNECTOR::IsMemberOfInvalidControlFlowLoop(clsPROCESS& Process) {
+    return Procedure("clsCONTROL_CONNECTOR.IsMemberOfInvalidControlFlowLoop", [&](Frame&) {
+        return ClosesLoop(Process.ControlFlow, FROM_ARISObjectDefinition, TO_ARISObjectDefinition);
+    });
+}
+
+}  // namespace wxbrg

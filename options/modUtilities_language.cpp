@@ -1,0 +1,81 @@
+#include "options/modUtilities_language.h"
+
+#include <variant>
+
+#include "options/ExportOptions.h"
+#include "options/modUtilities_registry.h"
+#include "run/clsExceptionHandler.h"
+#include "run/clsIOHandler.h"
+#include "run/modGlobals.h"
+#include "support/Text.h"
+
+namespace wxbrg {
+
+namespace {
+
+constexpr std::string_view defaultLanguage = "ENU";
+/// What the buffer for a text holds, its terminating zero included.
+constexpr std::size_t textCapacity = 4096;
+
+/// The tag of the language to load.
+std::string LanguageTag() {
+    const ProfileValue stored = GetProfileValue(programKey, languageValue);
+    std::string tag;
+    if (const auto* text = std::get_if<std::string>(&stored)) tag = *text;
+    if (const auto* number = std::get_if<std::int32_t>(&stored)) tag = std::to_string(*number);
+    return tag.empty() ? std::string(defaultLanguage) : tag;
+}
+
+}  // namespace
+
+bool LoadLocalizedResources() {
+    return Procedure("modUtilities.LoadLocalizedResources", [&](Frame&) {
+        const std::string stem = "wxbrg" + LanguageTag();
+        const std::string fileName = stem + ".dll";
+        gResourceLibrary = gPlatform->languageLibraries.Load(fileName);
+        const bool loaded = gResourceLibrary != nullptr;
+        if (!loaded)
+            clsExceptionHandler::ShowMessageBox(
+                "The Language Resource file '" + fileName + "' could not be found.",
+                BoxStyle::ok + Severity::critical + BoxStyle::foreground);
+        gHelpFile = stem + ".hlp";
+        return loaded;
+    });
+}
+
+std::string GetStringFromResourceFile(std::int32_t ID) {
+    if (gResourceLibrary == nullptr) return {};
+    std::string text = gResourceLibrary->LoadString(static_cast<std::uint32_t>(ID), textCapacity);
+    if (text.empty()) text = "Error :\r\nThe Resource ID '" + std::to_string(ID) + "' was not found";
+    return text;
+}
+
+std::string GetNLSString(std::int32_t ID, std::string_view S1, std::string_view S2, std::string_view S3,
+                         std::string_view S4) {
+    std::string text = GetStringFromResourceFile(ID);
+    if (S1.empty()) return text;
+    text = Replace(text, "%1$s", S1);
+    if (S2.empty()) return text;
+    text = Replace(text, "%2$s", S2);
+    if (S3.empty()) return text;
+    text = Replace(text, "%3$s", S3);
+    if (S4.empty()) return text;
+    return Replace(text, "%4$s", S4);
+}
+
+std::string Get_NLS_String_Message(std::int32_t ID) {
+    return GetNLSString(ID);
+}
+
+std::string GetNLSMessage(std::int16_t Severity, std::int32_t ID, std::string_view S1, std::string_view S2,
+                          std::string_view S3, std::string_view S4) {
+    return clsExceptionHandler::FormatMessageID(Severity, ID) + GetNLSString(ID, S1, S2, S3, S4);
+}
+
+void WriteNote(std::int16_t Severity, std::int32_t ID, std::string_view S1, std::string_view S2,
+               std::string_view S3, std::string_view S4) {
+    gIOHandler->WriteLog(GetNLSMessage(Severity, ID, S1, S2, S3, S4));
+    CountSeverity(gRunReport.notes, Severity);
+}
+
+}  // namespace wxbrg

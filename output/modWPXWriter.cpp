@@ -1,0 +1,53 @@
+#include "output/modWPXWriter.h"
+
+#include "mapping/modMappingRule_lookups.h"
+#include "run/Frame.h"
+#include "run/modGlobals.h"
+
+namespace wxbrg {
+
+namespace {
+
+/// The line of one value: the object's type, its name in quotes, and the value.
+std::string AttributeLine(const ARISObjDef& object, std::string_view value) {
+    return "\r\n" + Indent(3) + std::string(object->Type()) + " '" + object->Name(gLocale) + "' " +
+           std::string(value);
+}
+
+std::string AttributeByRule(const ARISObjDef& object, std::string_view ruleName) {
+    const std::string value = Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(object, ruleName);
+    return value.empty() ? std::string() : AttributeLine(object, value);
+}
+
+std::string AllAttributes(const ARISObjDef& object) {
+    std::string lines;
+    const ARISAttrList attributes = object->AttrList(gLocale);
+    for (std::int32_t i = 0; i < attributes.Count(); ++i) {
+        const ARISAttr attribute = attributes.Get(i);
+        if (!attribute->IsMaintained()) continue;
+        const std::string value = attribute->GetValue(gOptRemoveLineBreaks);
+        if (value.empty()) continue;
+        lines += AttributeLine(object, "(" + std::string(attribute->Type()) + "): " + value);
+    }
+    return lines;
+}
+
+}  // namespace
+
+std::string Indent(std::int32_t Level) {
+    return std::string(static_cast<std::size_t>(Level), '\t');
+}
+
+std::string SetupPrintingOfConnectorAttribute(const Collection<Ref<clsPath>>& ColPath,
+                                              std::string_view RuleName) {
+    return Procedure("modWPXWriter.SetupPrintingOfConnectorAttribute", [&](Frame&) {
+        std::string lines;
+        for (const Ref<clsPath>& path : ColPath)
+            for (const ARISObjDef& object : path->ColARISObjectDefinitionsOnPath)
+                if (object->OccList().Count() > 0)
+                    lines += RuleName.empty() ? AllAttributes(object) : AttributeByRule(object, RuleName);
+        return lines;
+    });
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,100 @@
+#include "run/Frame.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <new>
+#include <stdexcept>
+#include <string>
+
+#include "options/modUtilities_language.h"
+#include "run/clsExceptionHandler.h"
+
+namespace wxbrg {
+
+namespace {
+
+/// A warning came up where no statement can be passed over: a mistake in the program, not in the model.
+void StopInTestBuild([[maybe_unused]] const Failure& failure) {
+#ifdef WXBRG_TEST_BUILD
+    std::fprintf(stderr, "slip of the program: warning %d reached the frame of %s outside a step\n",
+                 static_cast<int>(failure.Number), std::string(gCurrentProcedure).c_str());
+    std::abort();
+#endif
+}
+
+}  // namespace
+
+FailureAction Frame::Tail(const Failure& failure) {
+    inTail_ = true;
+    if (!gExceptionHandler)
+        throw std::runtime_error("failure " + std::to_string(failure.Number) + " in " +
+                                 std::string(gCurrentProcedure) + ": " + failure.Description);
+    if (failure.Number < std::numeric_limits<std::int16_t>::min() ||
+        failure.Number > std::numeric_limits<std::int16_t>::max())
+        throw Failure(FailureKind::overflow);
+    const auto number = static_cast<std::int16_t>(failure.Number);
+    const FailureAction action = gExceptionHandler->AnalyseError(number, failure.Description);
+    if (action == FailureAction::unknown)
+        gExceptionHandler->MercyfulExit(gCurrentProcedure, number, failure.Description);
+    if (action == FailureAction::endRun) throw RunEnd{RunEnding::endedByFailure, number};
+    inTail_ = false;
+    return action;
+}
+
+FailureAction Frame::Act(const Failure& failure) {
+    const FailureAction action = Tail(failure);
+    if (action == FailureAction::leave) throw Leave{this};
+    return action;
+}
+
+FailureAction Frame::ActOnCurrentException() {
+    try {
+        throw;
+    } catch (const Failure& failure) {
+        if (inTail_) throw;
+        return Act(failure);
+    } catch (const std::bad_alloc&) {
+        if (inTail_) throw;
+        return Act(Failure(FailureKind::outOfMemory));
+    }
+}
+
+void Frame::LeaveByCurrentException() {
+    Failure failure(0);
+    try {
+        throw;
+    } catch (const Leave& leave) {
+        if (leave.frame != this) throw;
+        Restore();
+        return;
+    } catch (const Failure& thrown) {
+        if (inTail_) throw;
+        failure = thrown;
+    } catch (const std::bad_alloc&) {
+        if (inTail_) throw;
+        failure = Failure(FailureKind::outOfMemory);
+    }
+    if (Tail(failure) != FailureAction::leave) {
+        StopInTestBuild(failure);
+        gExceptionHandler->MercyfulExit(gCurrentProcedure, static_cast<std::int16_t>(failure.Number),
+                                        failure.Description);
+    }
+    Restore();
+}
+
+void Frame::Raise(std::int32_t number, std::string_view s1, std::string_view s2, std::string_view s3,
+                  std::string_view s4) {
+    Act(Failure::WithDescription(number, GetNLSString(number, s1, s2, s3, s4)));
+}
+
+void Frame::RaiseBare(std::int32_t number) {
+    Act(Failure::WithDescription(number, std::string()));
+}
+
+void Fail(std::int32_t number, std::string_view s1, std::string_view s2, std::string_view s3,
+          std::string_view s4) {
+    throw Failure::WithDescription(number, GetNLSString(number, s1, s2, s3, s4));
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,118 @@
+#include "run/clsExceptionHandler.h"
+
+#include <cstdlib>
+
+#include "options/modUtilities_language.h"
+#include "run/FailurePolicy.h"
+#include "run/modGlobals.h"
+#include "support/Text.h"
+
+namespace wxbrg {
+
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+/// Stands in a box text where the message number comes.
+constexpr std::string_view messageIdMark = "<MessageID>";
+
+std::string Header(std::int32_t number, std::string_view procedure) {
+    return GetNLSString(number, messageIdMark, procedure).append(lineEnd);
+}
+
+std::string Body(const std::string& description) {
+    return GetNLSString(1020).append(lineEnd).append(description);
+}
+
+std::string Question() {
+    return std::string(lineEnd).append(GetNLSString(1030)).append(lineEnd);
+}
+
+std::string_view SeverityText(std::int16_t severity) {
+    switch (severity) {
+        case Severity::critical:
+            return "C ";
+        case Severity::question:
+            return "Q ";
+        case Severity::exclamation:
+            return "E ";
+        case Severity::information:
+            return "I ";
+        default:
+            return "? ";
+    }
+}
+
+/// Puts the message number into a box text and shows it.
+BoxAnswer ShowNumbered(const std::string& text, std::int16_t severity, std::int16_t number,
+                       std::int32_t buttonSet) {
+    const std::string id = clsExceptionHandler::FormatMessageID(severity, number);
+    return clsExceptionHandler::ShowMessageBox(Replace(text, messageIdMark, id),
+                                               buttonSet + severity + BoxStyle::foreground);
+}
+
+}  // namespace
+
+void CountSeverity(SeverityCounts& counts, std::int32_t severity) {
+    switch (severity) {
+        case Severity::critical:
+            ++counts.critical;
+            break;
+        case Severity::question:
+            ++counts.question;
+            break;
+        case Severity::exclamation:
+            ++counts.exclamation;
+            break;
+        case Severity::information:
+            ++counts.information;
+            break;
+        default:
+            break;
+    }
+}
+
+clsExceptionHandler::clsExceptionHandler() {
+    gFailureContext = "";
+}
+
+FailureAction clsExceptionHandler::AnalyseError(std::int16_t Number, const std::string& Description) {
+    const FailurePolicy* const policy = FindFailurePolicy(Number);
+    if (policy == nullptr) return FailureAction::unknown;
+    bool otherwise = false;
+    switch (policy->box) {
+        case BoxForm::failure:
+            ShowNumbered(Header(1000, gCurrentProcedure) + Body(Description), Severity::critical, Number,
+                         BoxStyle::ok);
+            break;
+        case BoxForm::warning:
+            ShowNumbered(Header(1010, gCurrentProcedure) + Body(Description), Severity::exclamation, Number,
+                         BoxStyle::ok);
+            break;
+        case BoxForm::question:
+            otherwise = ShowNumbered(Header(1010, gCurrentProcedure) + Question(), Severity::question, Number,
+                                     BoxStyle::yesNo) != BoxAnswer::yes;
+            break;
+    }
+    return static_cast<FailureAction>(otherwise ? policy->otherwise : policy->answer);
+}
+
+void clsExceptionHandler::MercyfulExit(std::string_view ProcedureName, std::int16_t Number,
+                                       const std::string& Description) {
+    ShowNumbered(Header(1040, ProcedureName) + Body(Description), Severity::critical, Number,
+                 BoxStyle::okCancel);
+    throw RunEnd{RunEnding::unknownFailure, Number};
+}
+
+std::string clsExceptionHandler::FormatMessageID(std::int16_t Severity, std::int32_t Number) {
+    constexpr std::size_t digits = 5;
+    std::string number = std::to_string(std::abs(std::int64_t{Number}));
+    if (number.size() < digits) number.insert(0, digits - number.size(), '0');
+    return std::string("WXB").append(Number < 0 ? "-" : "").append(number).append(SeverityText(Severity));
+}
+
+BoxAnswer clsExceptionHandler::ShowMessageBox(std::string_view Text, std::int32_t Buttons) {
+    CountSeverity(gRunReport.boxes, Buttons & BoxStyle::severity);
+    return gPlatform->messageBox.Show(productName, Text, Buttons);
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,11 @@
+#include "run/modGlobals.h"
+
+namespace wxbrg {
+
+GlobalBlock gBlock;
+
+void RenewGlobals() {
+    gBlock = GlobalBlock();
+}
+
+}  // namespace wxbrg
