@@ -91,15 +91,19 @@ class Collection {
             ++position_;
             return *this;
         }
-        /// Compared with `end()` only: whether there is no entry left at this moment.
-        bool operator==(const Walk&) const { return position_ >= collection_->entries_.size(); }
+        /// Two places are equal where both have no entry left at this moment, or stand at the same one.
+        bool operator==(const Walk& other) const {
+            return IsOver() == other.IsOver() && (IsOver() || position_ == other.position_);
+        }
 
       private:
+        bool IsOver() const { return position_ >= collection_->entries_.size(); }
+
         const Collection* collection_;
         std::size_t position_;
     };
     Walk begin() const { return Walk(*this, 0); }
-    Walk end() const { return Walk(*this, entries_.size()); }
+    Walk end() const { return Walk(*this, none); }
 
   private:
     struct Entry {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 #include "support/Failure.h"
 
@@ -23,9 +24,7 @@ std::int16_t ToInt16(std::string_view text, char32_t decimalSeparator);
 /// Whole-number conversion to a narrower type; throws failure 6 for a value outside its range.
 template <class Narrow, class Wide>
 constexpr Narrow NarrowTo(Wide value) {
-    if (value < static_cast<Wide>(std::numeric_limits<Narrow>::min()) ||
-        value > static_cast<Wide>(std::numeric_limits<Narrow>::max()))
-        throw Failure(FailureKind::overflow);
+    if (!std::in_range<Narrow>(value)) throw Failure(FailureKind::overflow);
     return static_cast<Narrow>(value);
 }
 

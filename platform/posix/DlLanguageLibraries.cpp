@@ -1,0 +1,63 @@
+#include "platform/posix/DlLanguageLibraries.h"
+
+#include <dlfcn.h>
+
+#include <utility>
+
+#include "lang/LanguageLibraryAbi.h"
+
+namespace wxbrg {
+
+namespace {
+
+/// A shared library that is unloaded when its last user goes.
+using SharedLibrary = std::unique_ptr<void, int (*)(void*)>;
+
+/// As much of a text as fits into `capacity` bytes with a terminating zero, without part of a character at
+/// its end.
+std::string CutToCapacity(std::string_view text, std::size_t capacity) {
+    if (text.size() < capacity) return std::string(text);
+    std::size_t end = capacity == 0 ? 0 : capacity - 1;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
+    return std::string(text.substr(0, end));
+}
+
+class DlLanguageLibrary : public LanguageLibrary {
+  public:
+    DlLanguageLibrary(SharedLibrary library, LanguageLibraryAbi::MessageFunction* message)
+        : library_(std::move(library)), message_(message) {}
+
+    std::string LoadString(std::uint32_t number, std::size_t capacity) const override {
+        const char* const text = message_(number);
+        return text == nullptr ? std::string() : CutToCapacity(text, capacity);
+    }
+
+  private:
+    SharedLibrary library_;
+    LanguageLibraryAbi::MessageFunction* message_;
+};
+
+/// A function that a library exports, or null.
+template <class Function>
+Function* FindFunction(const SharedLibrary& library, const char* name) {
+    return reinterpret_cast<Function*>(dlsym(library.get(), name));
+}
+
+}  // namespace
+
+DlLanguageLibraries::DlLanguageLibraries(std::string directory) : directory_(std::move(directory)) {}
+
+std::unique_ptr<LanguageLibrary> DlLanguageLibraries::Load(std::string_view fileName) {
+    using namespace LanguageLibraryAbi;
+    if (fileName.find('/') != std::string_view::npos) return nullptr;
+    const std::string path = directory_ + "/" + std::string(fileName);
+    SharedLibrary library(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL), dlclose);
+    if (!library) return nullptr;
+    auto* const versionOf = FindFunction<VersionFunction>(library, versionFunctionName);
+    if (versionOf == nullptr || versionOf() != version) return nullptr;
+    auto* const message = FindFunction<MessageFunction>(library, messageFunctionName);
+    if (message == nullptr) return nullptr;
+    return std::make_unique<DlLanguageLibrary>(std::move(library), message);
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,121 @@
+#include "platform/posix/PosixFileSystem.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <utility>
+
+#include "support/Failure.h"
+
+namespace wxbrg {
+
+namespace {
+
+bool IsFolder(const std::string& name) {
+    struct stat status {};
+    return stat(name.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// The folder that a file lies in.
+std::string FolderOf(const std::string& name) {
+    const std::size_t separator = name.rfind('/');
+    if (separator == std::string::npos) return ".";
+    return name.substr(0, separator + 1);
+}
+
+/// The run-time's number for a failed call on a file.
+std::int32_t FailureNumber(int error, const std::string& name) {
+    switch (error) {
+        case ENOENT:
+            return IsFolder(FolderOf(name)) ? FailureKind::fileNotFound : FailureKind::pathNotFound;
+        case ENOTDIR:
+            return FailureKind::pathNotFound;
+        case ENOSPC:
+        case EDQUOT:
+            return FailureKind::diskFull;
+        default:
+            return FailureKind::fileAccess;
+    }
+}
+
+class PosixFile : public File {
+  public:
+    PosixFile(std::string name, int descriptor) : name_(std::move(name)), descriptor_(descriptor) {}
+    ~PosixFile() override {
+        if (descriptor_ >= 0) close(descriptor_);
+    }
+    PosixFile(const PosixFile&) = delete;
+    PosixFile& operator=(const PosixFile&) = delete;
+
+    std::string ReadAll() override;
+    void Write(std::string_view bytes) override;
+    void Close() override;
+
+    bool IsFolder() const {
+        struct stat status {};
+        return fstat(descriptor_, &status) == 0 && S_ISDIR(status.st_mode);
+    }
+
+  private:
+    /// Throws the failure that `errno` tells of.
+    [[noreturn]] void Fail() const { throw Failure(FailureNumber(errno, name_), name_); }
+
+    std::string name_;
+    int descriptor_;
+};
+
+std::string PosixFile::ReadAll() {
+    std::string bytes;
+    std::array<char, 65536> block;
+    for (;;) {
+        const ssize_t count = read(descriptor_, block.data(), block.size());
+        if (count > 0) bytes.append(block.data(), static_cast<std::size_t>(count));
+        if (count == 0) return bytes;
+        if (count < 0 && errno != EINTR) Fail();
+    }
+}
+
+void PosixFile::Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = write(descriptor_, bytes.data(), bytes.size());
+        if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
+        if (count < 0 && errno != EINTR) Fail();
+    }
+}
+
+void PosixFile::Close() {
+    if (descriptor_ < 0) return;
+    // The descriptor is gone in any case, also when a signal came in between.
+    if (close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) Fail();
+}
+
+int OpenFlags(FileAccess access) {
+    switch (access) {
+        case FileAccess::empty:
+            return O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
+        case FileAccess::append:
+            return O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC;
+        case FileAccess::read:
+            break;
+    }
+    return O_RDONLY | O_CLOEXEC;
+}
+
+}  // namespace
+
+std::unique_ptr<File> PosixFileSystem::Open(const std::string& name, FileAccess access) {
+    if (name.find('\0') != std::string::npos) throw Failure(FailureKind::fileAccess, name);
+    int descriptor = -1;
+    do {
+        descriptor = open(name.c_str(), OpenFlags(access), 0666);
+    } while (descriptor < 0 && errno == EINTR);
+    if (descriptor < 0) throw Failure(FailureNumber(errno, name), name);
+    auto file = std::make_unique<PosixFile>(name, descriptor);
+    if (file->IsFolder()) throw Failure(FailureKind::fileAccess, name);
+    return file;
+}
+
+}  // namespace wxbrg

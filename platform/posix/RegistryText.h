@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/ProfileStore.h"
+#include "platform/posix/RegistryEntry.h"
+
+namespace wxbrg {
+
+/// Values in the text form of registry files, in UTF-8:
+///
+///     REGEDIT4
+///
+///     [HKEY_CURRENT_USER\Software\Example]
+///     "Name"="a \"text\" with a \\"
+///     "Number"=dword:0000000a
+///
+/// A change touches the lines of the one value that it changes. Everything else stays as it stands, byte for
+/// byte: foreign keys, values of other types, comments, the order, and lines that cannot be read. A line that
+/// cannot be read holds no value, and a change writes its value beside it. Where a value stands more than
+/// once, the last one counts.
+///
+/// Keys are full paths from the root on; a trailing backslash makes no difference. The name of a key's
+/// default value is empty. Names compare without regard to case.
+class RegistryText {
+  public:
+    /// An empty registry: the first line alone.
+    RegistryText();
+
+    /// Reads a text. An empty one is an empty registry; nothing for a text of another form, which shows in
+    /// its first line.
+    static std::optional<RegistryText> Parse(std::string_view text);
+
+    /// The value, or nothing where there is none, or one that is neither a string nor a 32-bit number.
+    ProfileValue Get(std::string_view key, std::string_view name) const;
+
+    /// Stores a string or a number, making the key if need be. Returns false, and changes nothing, for what
+    /// has no place in the form: an empty value, a string that is no UTF-8 or holds a zero character, an
+    /// empty key, names that are no UTF-8 or hold control characters.
+    bool Set(std::string_view key, std::string_view name, const ProfileValue& value);
+
+    /// Takes a value out, wherever it stands. Returns whether there was one.
+    bool Remove(std::string_view key, std::string_view name);
+
+    /// The whole text.
+    std::string Text() const;
+
+  private:
+    struct Line {
+        RegistryEntry entry;
+        std::string key;   ///< what it stands under, to compare
+        std::string name;  ///< of a value, to compare
+
+        bool IsValue(const std::string& wantedKey, const std::string& wantedName) const {
+            return entry.kind == RegistryEntry::Kind::value && key == wantedKey && name == wantedName;
+        }
+    };
+
+    static Line MakeLine(RegistryEntry entry, const std::string& keyAbove);
+    const Line* Find(std::string_view key, std::string_view name) const;
+    /// Behind what the last section of a key holds; nothing where the key has no section.
+    std::optional<std::size_t> PlaceInKey(const std::string& foldedKey) const;
+    void InsertLine(std::size_t place, const std::string& text);
+    void AppendKey(std::string_view key);
+
+    std::vector<Line> lines_;
+    std::string lineBreak_ = "\n";
+};
+
+}  // namespace wxbrg

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Clock.h"
+
+namespace wxbrg {
+
+/// A clock that stands still.
+class FixedClock : public Clock {
+  public:
+    explicit FixedClock(LocalTime time) : time_(time) {}
+    LocalTime Now() const override { return time_; }
+
+  private:
+    LocalTime time_;
+};
+
+}  // namespace wxbrg

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Progress.h"
+
+namespace wxbrg {
+
+/// Hears how far a run has come and shows nothing.
+class NoProgress : public Progress {
+  public:
+    void Report(std::string_view /*stage*/, std::uint64_t /*done*/, std::uint64_t /*total*/) override {}
+};
+
+}  // namespace wxbrg

@@ -1,0 +1,127 @@
+#include "platform/posix/PosixFileSystem.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/FailureMatcher.h"
+
+namespace wxbrg {
+namespace {
+
+TEST(PosixFileSystem, AFullDiskIs61WithTheFilesName) {
+    PosixFileSystem system;
+    const auto file = system.Open("/dev/full", FileAccess::append);
+    EXPECT_THAT(
+        [&] {
+            file->Write("x");
+        },
+        testing::Throws<Failure>(testing::Field(&Failure::Description, "disk full: /dev/full")));
+    EXPECT_THAT(
+        [&] {
+            file->Write("x");
+        },
+        Fails(61));
+    EXPECT_NO_THROW(file->Close());
+}
+
+TEST(PosixFileSystem, ANameInTheWorkingFolderIsFoundOr53) {
+    PosixFileSystem system;
+    EXPECT_THAT(
+        [&] {
+            system.Open("surely-no-such-file", FileAccess::read);
+        },
+        Fails(53));
+    EXPECT_THAT(
+        [&] {
+            system.Open("", FileAccess::read);
+        },
+        Fails(53));
+}
+
+TEST(PosixFileSystem, ANameThatNoFileCanHaveIs75) {
+    const TemporaryFolder folder;
+    PosixFileSystem system;
+    EXPECT_THAT(
+        [&] {
+            system.Open((folder / std::string(1000, 'x')).string(), FileAccess::empty);
+        },
+        Fails(75));
+    EXPECT_THAT(
+        [&] {
+            system.Open((folder / "a").string() + std::string("\0b", 2), FileAccess::empty);
+        },
+        Fails(75));
+    EXPECT_FALSE(std::filesystem::exists(folder / "a"));
+}
+
+TEST(PosixFileSystem, ALinkInACircleIs75) {
+    const TemporaryFolder folder;
+    std::filesystem::create_symlink(folder / "a", folder / "a");
+    EXPECT_THAT(
+        [&] {
+            PosixFileSystem().Open((folder / "a").string(), FileAccess::read);
+        },
+        Fails(75));
+}
+
+TEST(PosixFileSystem, AFileThatMayNotGrowAnyMoreIs75) {
+    const TemporaryFolder folder;
+    const auto file = PosixFileSystem().Open((folder / "a").string(), FileAccess::empty);
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small{1000, limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_THAT(
+        [&] {
+            file->Write(std::string(2000, 'x'));
+        },
+        Fails(75));
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(std::filesystem::file_size(folder / "a"), 1000U);
+}
+
+TEST(PosixFileSystem, ReadsWhatHasNoSizeBeforehand) {
+    EXPECT_FALSE(PosixFileSystem().Open("/proc/self/status", FileAccess::read)->ReadAll().empty());
+}
+
+TEST(PosixFileSystem, AClosedFileMayBeClosedAgainButNotUsed) {
+    const TemporaryFolder folder;
+    const auto file = PosixFileSystem().Open((folder / "a").string(), FileAccess::empty);
+    file->Close();
+    EXPECT_NO_THROW(file->Close());
+    EXPECT_THAT(
+        [&] {
+            file->Write("x");
+        },
+        Fails(75));
+}
+
+TEST(PosixFileSystem, NoDescriptorStaysOpen) {
+    const TemporaryFolder folder;
+    const std::string name = (folder / "a").string();
+    PosixFileSystem system;
+    const int before = open("/dev/null", O_RDONLY);
+    close(before);
+    for (int i = 0; i < 10; ++i) {
+        system.Open(name, FileAccess::append)->Write("x");
+        system.Open(name, FileAccess::read)->Close();
+        EXPECT_THAT(
+            [&] {
+                system.Open(folder.Path().string(), FileAccess::read);
+            },
+            Fails(75));
+    }
+    const int after = open("/dev/null", O_RDONLY);
+    close(after);
+    EXPECT_EQ(before, after);
+}
+
+}  // namespace
+}  // namespace wxbrg
