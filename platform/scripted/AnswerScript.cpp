@@ -110,9 +110,9 @@ AnswerScript AnswerScript::Parse(std::string_view text) {
     return AnswerScript(std::move(answers));
 }
 
-void AnswerScript::Throw(std::string text) {
+void AnswerScript::Throw(const std::string& text) {
     error_ = text;
-    throw ScriptError(std::move(text));
+    throw ScriptError(text);
 }
 
 void AnswerScript::Reject(const ScriptedAnswer& answer, const std::string& reason) {

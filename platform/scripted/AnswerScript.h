@@ -67,7 +67,7 @@ class AnswerScript {
   private:
     const ScriptedAnswer& Next(std::string_view asked);
     void Take();
-    [[noreturn]] void Throw(std::string text);
+    [[noreturn]] void Throw(const std::string& text);
 
     std::vector<ScriptedAnswer> answers_;
     std::size_t next_ = 0;

@@ -52,9 +52,7 @@ TEST_F(PosixProfileStoreTest, AnotherStoreOnTheSameFileSeesWhatWasWritten) {
 TEST_F(PosixProfileStoreTest, AFileOfAnotherFormIsNeitherReadNorChanged) {
     std::filesystem::create_directories(file_.parent_path());
     for (const std::string& bytes :
-         {std::string("\0\0\0\0", 4),
-          std::string("\x7F"
-                      "ELF\x02\x01"),
+         {std::string("\0\0\0\0", 4), std::string("\x7F\x45LF\x02\x01"),
           std::string("[HKEY_CURRENT_USER\\Software\\Example]\n\"Number\"=dword:1\n")}) {
         WriteBytes(file_, bytes);
         EXPECT_EQ(User("Number"), ProfileValue());

@@ -10,7 +10,7 @@
 #include "tests/platform/TemporaryFolder.h"
 
 /// The system's newlocale loses memory when LOCPATH is set, as it is in these tests alone.
-extern "C" const char* __lsan_default_suppressions() {
+extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
     return "leak:__argz_add_sep";
 }
 

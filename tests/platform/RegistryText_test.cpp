@@ -103,9 +103,7 @@ TEST(RegistryText, TheFirstLineTellsTheForm) {
          {"REGEDIT4", "REGEDIT4\n", "REGEDIT4 \r\n\r\n", "\xEF\xBB\xBFREGEDIT4\n", ""})
         EXPECT_TRUE(RegistryText::Parse(text)) << text;
     for (const std::string text : {"\n", "REGEDIT", "REGEDIT45\n", "\nREGEDIT4\n", "[HKEY_CURRENT_USER]\n",
-                                   "Windows Registry Editor Version 5.00\n",
-                                   "\x7F"
-                                   "ELF"})
+                                   "Windows Registry Editor Version 5.00\n", "\x7F\x45LF"})
         EXPECT_FALSE(RegistryText::Parse(text)) << text;
 }
 

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "support/Ref.h"
 #include "tests/support/FailureMatcher.h"
 
@@ -194,6 +196,17 @@ TEST(Collection, AWalkMeetsEntriesThatAreAppendedDuringIt) {
     }
     EXPECT_EQ(met.size(), 100U);
     EXPECT_EQ(met.back(), 100);
+}
+
+TEST(Collection, AWalkServesAlgorithms) {
+    const Collection<int> numbers = Numbered(12);
+    EXPECT_EQ(std::count_if(numbers.begin(), numbers.end(),
+                            [](int number) {
+                                return number > 4;
+                            }),
+              8);
+    EXPECT_EQ(std::find(numbers.begin(), numbers.end(), 99), numbers.end());
+    EXPECT_EQ(*std::find(numbers.begin(), numbers.end(), 7), 7);
 }
 
 TEST(Collection, ACopyIsIndependent) {

@@ -99,6 +99,21 @@ TEST(NarrowTo, KeepsWhatFits) {
     EXPECT_EQ(NarrowTo<std::int32_t>(std::int64_t{int32Min}), int32Min);
 }
 
+TEST(NarrowTo, TakesNumbersWithoutSign) {
+    EXPECT_EQ(NarrowTo<std::int16_t>(std::size_t{32767}), 32767);
+    EXPECT_EQ(NarrowTo<std::uint32_t>(std::size_t{4294967295}), 4294967295U);
+    EXPECT_THAT(
+        [] {
+            NarrowTo<std::int16_t>(std::size_t{32768});
+        },
+        Fails(FailureKind::overflow));
+    EXPECT_THAT(
+        [] {
+            NarrowTo<std::uint32_t>(-1);
+        },
+        Fails(FailureKind::overflow));
+}
+
 TEST(NarrowTo, IsFailure6ForWhatDoesNotFit) {
     EXPECT_THAT(
         [] {
