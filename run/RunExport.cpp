@@ -3,7 +3,12 @@
 #include <exception>
 #include <utility>
 
+#include "mapping/clsMappingRule.h"
+#include "model/modPROCESS.h"
+#include "options/modUtilities_language.h"
 #include "run/Frame.h"
+#include "run/clsExceptionHandler.h"
+#include "run/clsIOHandler.h"
 #include "run/modGlobals.h"
 #include "run/modMain.h"
 
@@ -11,10 +16,12 @@ namespace wxbrg {
 
 namespace {
 
-/// Runs `Main` on the global block and puts the way it ended into the block's report.
-void RunMain() {
+constexpr std::string_view processRule = "PROCESS";
+
+/// Runs `body` on the global block and puts the way it ended into the block's report.
+void RunToItsEnd(void (*body)()) {
     try {
-        Main();
+        body();
     } catch (const RunEnd& end) {
         gRunReport.ending = end.ending;
         gRunReport.number = end.number;
@@ -26,6 +33,17 @@ void RunMain() {
     }
 }
 
+void SetupRules() {
+    Procedure("modMain.Setup", [](Frame&) {
+        if (!LoadLocalizedResources()) throw RunEnd{RunEnding::noLanguageLibrary, 0};
+        gExceptionHandler = gPool.Create<clsExceptionHandler>();
+        gIOHandler = gPool.Create<clsIOHandler>();
+        gIOHandler->ParseMappingFile();
+        // Ends here where the rule is missing.
+        PROCESS_Find_ARIS_Model_In_ModelCollection_Using_Mapping_Rule({}, processRule);
+    });
+}
+
 }  // namespace
 
 RunReport RunExport(const RunRequest& request, Platform& platform, aris::Automation& automation) {
@@ -35,11 +53,23 @@ RunReport RunExport(const RunRequest& request, Platform& platform, aris::Automat
     gRunRequest = &request;
     OnReservedStack(request.stackSize, [](const char* end) {
         gBlock.stackEnd = end;
-        RunMain();
+        RunToItsEnd(Main);
     });
     RunReport report = std::move(gRunReport);
     RenewGlobals();
     return report;
+}
+
+ProcessTypes ReadProcessTypes(Platform& platform) {
+    RenewGlobals();
+    gPlatform = &platform;
+    RunToItsEnd(SetupRules);
+    ProcessTypes result{std::move(gRunReport), {}};
+    if (result.report.ending == RunEnding::normal)
+        for (const clsObjectMapping& mapping : gColMappingRule.Item(processRule)->ColObjectMapping)
+            result.types.push_back(mapping.ObjTypeNum);
+    RenewGlobals();
+    return result;
 }
 
 }  // namespace wxbrg

@@ -67,4 +67,14 @@ struct RunReport {
 /// through. It never throws for what goes wrong in the run; the report tells. The global block is made anew.
 RunReport RunExport(const RunRequest& request, Platform& platform, aris::Automation& automation);
 
+/// What the rules in force say of model types.
+struct ProcessTypes {
+    RunReport report;                 ///< ended otherwise than normally: the rules could not be read
+    std::vector<std::int32_t> types;  ///< model type numbers, in the order of the rule
+};
+
+/// Reads the rules as a run does, from the profile beside the program or the default table, with the boxes
+/// that this brings, and tells which models are processes. The global block is made anew.
+ProcessTypes ReadProcessTypes(Platform& platform);
+
 }  // namespace wxbrg

@@ -1,0 +1,10 @@
+#pragma once
+
+/// What the program tells its caller when it ends.
+namespace wxbrg::cli::ExitStatus {
+inline constexpr int normal = 0;
+inline constexpr int failure = 1;      ///< a failure ended the run, or it could not begin
+inline constexpr int usage = 2;        ///< the arguments, or the case, are wrong
+inline constexpr int strict = 3;       ///< `--strict` was given, and there was a warning
+inline constexpr int cancelled = 130;  ///< the user cancelled a dialog and said to end
+}  // namespace wxbrg::cli::ExitStatus

@@ -1,0 +1,86 @@
+#include "cli/OptionsCommand.h"
+
+#include <ostream>
+#include <string>
+
+#include "cli/ExitStatus.h"
+#include "cli/OptionSettings.h"
+
+namespace wxbrg::cli {
+
+namespace {
+
+struct ValueAndOrigin {
+    ProfileValue value;
+    std::string_view origin;
+};
+
+ProfileValue DefaultOf(std::string_view name) {
+    if (const ExportOption* option = FindOption(name)) return option->byDefault;
+    return name == languageValue ? std::string("ENU") : std::string();
+}
+
+ValueAndOrigin InForce(const ProfileStore& store, std::string_view name) {
+    ProfileValue value = store.Read(ProfileScope::user, programKey, name);
+    if (!std::holds_alternative<std::monostate>(value)) return {std::move(value), "user"};
+    value = store.Read(ProfileScope::machine, programKey, name);
+    if (!std::holds_alternative<std::monostate>(value)) return {std::move(value), "machine"};
+    return {DefaultOf(name), "default"};
+}
+
+std::string TextOf(const ProfileValue& value) {
+    const auto* number = std::get_if<std::int32_t>(&value);
+    return number ? std::to_string(*number) : std::get<std::string>(value);
+}
+
+int List(const Surroundings& surroundings) {
+    for (const std::string_view name : StoredValueNames()) {
+        const ValueAndOrigin found = InForce(surroundings.profileStore, name);
+        surroundings.out << name << '\t' << TextOf(found.value) << '\t' << found.origin << '\n';
+    }
+    return ExitStatus::normal;
+}
+
+int Get(const std::string& name, const Surroundings& surroundings) {
+    surroundings.out << TextOf(InForce(surroundings.profileStore, StoredValueName(name)).value) << '\n';
+    return ExitStatus::normal;
+}
+
+int Set(const OptionsArguments& given, const Surroundings& surroundings) {
+    const OptionSetting setting = ParseStoredValue(given.name, given.value);
+    if (surroundings.profileStore.Write(programKey, setting.name, setting.value)) return ExitStatus::normal;
+    surroundings.err << "wxbrg: The option " << setting.name
+                     << " could not be stored; is the folder of the user's settings writable?\n";
+    return ExitStatus::failure;
+}
+
+int Reset(const std::string& name, const Surroundings& surroundings) {
+    std::vector<std::string_view> names = StoredValueNames();
+    if (!name.empty()) names = {StoredValueName(name)};
+    int status = ExitStatus::normal;
+    for (const std::string_view each : names) {
+        if (surroundings.profileStore.Remove(programKey, each)) continue;
+        surroundings.err << "wxbrg: The stored option " << each
+                         << " could not be taken away; is the folder of the user's settings writable?\n";
+        status = ExitStatus::failure;
+    }
+    return status;
+}
+
+}  // namespace
+
+int RunOptionsCommand(const OptionsArguments& given, const Surroundings& surroundings) {
+    switch (given.action) {
+        case OptionsAction::get:
+            return Get(given.name, surroundings);
+        case OptionsAction::set:
+            return Set(given, surroundings);
+        case OptionsAction::reset:
+            return Reset(given.name, surroundings);
+        case OptionsAction::list:
+            break;
+    }
+    return List(surroundings);
+}
+
+}  // namespace wxbrg::cli

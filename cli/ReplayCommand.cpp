@@ -1,0 +1,137 @@
+#include "cli/ReplayCommand.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "cli/ExitStatus.h"
+#include "cli/FolderFileSystem.h"
+#include "cli/ReplayCase.h"
+#include "cli/RepositoryFileAutomation.h"
+#include "cli/RunOutcome.h"
+#include "cli/Transcript.h"
+#include "cli/UsageError.h"
+#include "options/ExportOptions.h"
+#include "platform/scripted/AnswerScript.h"
+#include "platform/scripted/MemoryProfileStore.h"
+#include "platform/scripted/NoProgress.h"
+#include "platform/scripted/PlainUserLocale.h"
+#include "platform/scripted/ScriptedFileDialog.h"
+#include "platform/scripted/ScriptedMessageBox.h"
+#include "platform/scripted/ScriptedOptionsFormView.h"
+#include "run/RunExport.h"
+
+namespace wxbrg::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The name under which a run looks for the mapping profile of a case, in the case's folder.
+constexpr const char* profileStem = "profile";
+
+/// Reads a part of the case; what is wrong with it is told with the file's name.
+template <class Read>
+auto ReadPart(const fs::path& file, const Read& read) {
+    try {
+        return read();
+    } catch (const ScriptError& error) {
+        throw UsageError(file.string() + ": " + error.what() + ".");
+    }
+}
+
+MemoryProfileStore StoreOf(const ReplayCase& given, const fs::path& folder) {
+    MemoryProfileStore store;
+    ReadPart(folder / "options", [&] {
+        store.Load(ProfileScope::user, programKey, given.options);
+    });
+    ReadPart(folder / "machine-options", [&] {
+        store.Load(ProfileScope::machine, programKey, given.machineOptions);
+    });
+    return store;
+}
+
+std::unique_ptr<CodePage> CodePageOf(const ReplayCase& given, const Surroundings& surroundings) {
+    std::unique_ptr<CodePage> codePage = surroundings.codePage(given.codePage);
+    if (!codePage)
+        throw UsageError("The case asks for the code page " + std::to_string(given.codePage) +
+                         ", which this system does not have.");
+    return codePage;
+}
+
+void MakeOutFolder(const fs::path& out, const fs::path& caseFolder) {
+    fs::create_directories(out);
+    if (fs::equivalent(out, caseFolder))
+        throw UsageError("The output would go into the case itself; give another folder with --out.");
+}
+
+void WriteOptions(const MemoryProfileStore& store, const fs::path& file, FileSystem& files) {
+    const std::unique_ptr<File> opened = files.Open(file.string(), FileAccess::empty);
+    opened->Write(store.Dump(ProfileScope::user, programKey));
+    opened->Close();
+}
+
+/// A case that was read, made ready to run.
+struct ReadyCase {
+    ReplayCase given;
+    MemoryProfileStore store;
+    AnswerScript script;
+    std::unique_ptr<CodePage> codePage;
+};
+
+ReadyCase MakeReady(const fs::path& folder, const Surroundings& surroundings) {
+    ReplayCase given = ReadReplayCase(folder);
+    MemoryProfileStore store = StoreOf(given, folder);
+    AnswerScript script = ReadPart(folder / "answers", [&] {
+        return AnswerScript::Parse(given.answers);
+    });
+    std::unique_ptr<CodePage> codePage = CodePageOf(given, surroundings);
+    return {std::move(given), std::move(store), std::move(script), std::move(codePage)};
+}
+
+RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
+                  const Surroundings& surroundings) {
+    PlainUserLocale userLocale;
+    FolderFileSystem files(surroundings.fileSystem, out);
+    ScriptedMessageBox answeringBox(ready.script);
+    TranscribingMessageBox messageBox(answeringBox, surroundings.out);
+    ScriptedFileDialog fileDialog(ready.script);
+    ScriptedOptionsFormView optionsFormView(ready.script);
+    NoProgress progress;
+    Platform platform{.profileStore = ready.store,
+                      .languageLibraries = surroundings.languageLibraries,
+                      .codePage = *ready.codePage,
+                      .clock = surroundings.clock,
+                      .userLocale = userLocale,
+                      .fileSystem = files,
+                      .messageBox = messageBox,
+                      .fileDialog = fileDialog,
+                      .optionsFormView = optionsFormView,
+                      .progress = progress,
+                      .programDirectory = fs::absolute(folder).string(),
+                      .programName = profileStem};
+    RepositoryFileAutomation automation(surroundings.openRepository, ready.given.repository.string());
+    RunRequest request;
+    request.commandLine = ready.given.commandLine;
+    return RunExport(request, platform, automation);
+}
+
+}  // namespace
+
+int RunReplayCommand(const ReplayArguments& given, const Surroundings& surroundings) {
+    const fs::path folder = given.caseFolder;
+    const fs::path out = given.outFolder;
+    ReadyCase ready = MakeReady(folder, surroundings);
+    MakeOutFolder(out, folder);
+    const RunReport report = RunCase(ready, folder, out, surroundings);
+    if (const std::optional<std::string>& error = ready.script.Error())
+        throw UsageError((folder / "answers").string() + ": " + *error + ".");
+    TranscribeEnding(report, surroundings.out);
+    TellProgramFailure(report, surroundings.err);
+    WriteOptions(ready.store, out / "options", surroundings.fileSystem);
+    return ExitStatus::normal;
+}
+
+}  // namespace wxbrg::cli

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "platform/MessageBox.h"
+#include "run/RunExport.h"
+
+namespace wxbrg::cli {
+
+// The transcript of a run: one JSON value a line, in UTF-8.
+
+/// Hands each box on to another message box, and writes it with its answer.
+class TranscribingMessageBox : public MessageBox {
+  public:
+    TranscribingMessageBox(MessageBox& answering, std::ostream& out) : answering_(answering), out_(out) {}
+    BoxAnswer Show(std::string_view title, std::string_view text, std::int32_t buttons) override;
+
+  private:
+    MessageBox& answering_;
+    std::ostream& out_;
+};
+
+/// Writes the last line: how the run ended.
+void TranscribeEnding(const RunReport& report, std::ostream& out);
+
+}  // namespace wxbrg::cli

@@ -1,0 +1,94 @@
+#include <unistd.h>
+
+#include <algorithm>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "aris/xml/XmlAutomation.h"
+#include "aris/xml/XmlRepository.h"
+#include "cli/ExitStatus.h"
+#include "cli/Program.h"
+#include "platform/posix/DlLanguageLibraries.h"
+#include "platform/posix/IconvCodePage.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixProfileStore.h"
+#include "platform/posix/PosixUserLocale.h"
+#include "platform/posix/ProgramLocation.h"
+#include "platform/posix/SystemClock.h"
+#include "platform/scripted/NoProgress.h"
+#include "platform/terminal/TerminalFileDialog.h"
+#include "platform/terminal/TerminalMessageBox.h"
+#include "platform/terminal/TerminalOptionsFormView.h"
+#include "platform/terminal/TerminalProgress.h"
+
+namespace {
+
+using namespace wxbrg;
+
+constexpr std::uint32_t utf8CodePage = 65001;
+
+std::unique_ptr<CodePage> OpenCodePage(std::optional<std::uint32_t> number) {
+    const std::uint32_t wanted = number.value_or(utf8CodePage);
+    if (!IconvCodePage::IsSupported(wanted)) return nullptr;
+    return std::make_unique<IconvCodePage>(wanted);
+}
+
+std::unique_ptr<Progress> ShowProgress() {
+    if (isatty(STDERR_FILENO) == 0) return std::make_unique<NoProgress>();
+    return std::make_unique<TerminalProgress>(std::cerr);
+}
+
+cli::Dialogs MakeDialogs() {
+    return {std::make_unique<TerminalMessageBox>(std::cin, std::cout),
+            std::make_unique<TerminalFileDialog>(std::cin, std::cout),
+            std::make_unique<TerminalOptionsFormView>(std::cin, std::cout)};
+}
+
+std::unique_ptr<aris::Automation> OpenFolder(const std::string& folder, aris::LoadProgress progress) {
+    return std::make_unique<XmlAutomation>(folder, std::string(), std::move(progress));
+}
+
+std::unique_ptr<aris::Automation> OpenCatalogue(aris::Catalogue& catalogue) {
+    return std::make_unique<CatalogueAutomation>(catalogue);
+}
+
+int Run(const std::vector<std::string>& arguments) {
+    const ProgramLocation program = RunningProgram();
+    PosixProfileStore profileStore(DefaultProfileStoreFiles());
+    DlLanguageLibraries languageLibraries(program.directory);
+    SystemClock clock;
+    PosixUserLocale userLocale;
+    PosixFileSystem fileSystem;
+    const cli::Surroundings surroundings{.out = std::cout,
+                                         .err = std::cerr,
+                                         .profileStore = profileStore,
+                                         .languageLibraries = languageLibraries,
+                                         .clock = clock,
+                                         .userLocale = userLocale,
+                                         .fileSystem = fileSystem,
+                                         .programDirectory = program.directory,
+                                         .programName = program.name,
+                                         .codePage = OpenCodePage,
+                                         .progress = ShowProgress,
+                                         .dialogs = MakeDialogs,
+                                         .openRepository = OpenXmlRepository,
+                                         .folderAutomation = OpenFolder,
+                                         .catalogueAutomation = OpenCatalogue};
+    return cli::RunProgram(arguments, surroundings);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
+    } catch (const std::exception& error) {
+        std::cerr << "wxbrg: " << error.what() << '\n';
+        return cli::ExitStatus::failure;
+    }
+}

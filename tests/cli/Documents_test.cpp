@@ -1,0 +1,209 @@
+// The manual page and the completion tell exactly the subcommands and options that there are.
+
+#include <gmock/gmock.h>
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "cli/OptionSettings.h"
+#include "cli/ToolParser.h"
+#include "tests/cli/Process.h"
+
+namespace wxbrg::cli {
+namespace {
+
+using testing::ContainerEq;
+using testing::HasSubstr;
+using testing::UnorderedElementsAreArray;
+
+using Names = std::set<std::string>;
+
+const std::string packaging = WXBRG_PACKAGING;
+
+std::string ReadAll(const std::string& file) {
+    std::ifstream stream(file);
+    EXPECT_TRUE(stream) << file;
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+/// The options of a part of the grammar with their hyphens, without those in `without`.
+Names OptionsOf(const CLI::App& app, const Names& without = {}) {
+    Names names;
+    for (const CLI::Option* option : app.get_options()) {
+        for (const std::string& name : option->get_lnames()) names.insert("--" + name);
+        for (const std::string& name : option->get_snames()) names.insert("-" + name);
+    }
+    for (const std::string& name : without) names.erase(name);
+    return names;
+}
+
+std::vector<const CLI::App*> SubcommandsOf(const CLI::App& app) {
+    return app.get_subcommands([](const CLI::App*) {
+        return true;
+    });
+}
+
+Names NamesOf(const CLI::App& app) {
+    Names names;
+    for (const CLI::App* subcommand : SubcommandsOf(app)) names.insert(subcommand->get_name());
+    return names;
+}
+
+/// Every part of the grammar under the words that lead to it, such as "options set"; the root under "".
+void Walk(const CLI::App& app, const std::string& path, std::map<std::string, const CLI::App*>& found) {
+    found[path] = &app;
+    for (const CLI::App* subcommand : SubcommandsOf(app))
+        Walk(*subcommand, path.empty() ? subcommand->get_name() : path + " " + subcommand->get_name(), found);
+}
+
+class Documents : public testing::Test {
+  protected:
+    Documents() { Walk(*grammar, "", parts); }
+
+    ToolArguments arguments;
+    std::unique_ptr<CLI::App> grammar = MakeGrammar(arguments);
+    std::map<std::string, const CLI::App*> parts;
+};
+
+/// A section of the manual page on a subcommand.
+struct ManualSection {
+    std::string heading;
+    Names options;  ///< those that are explained, a tagged paragraph each
+};
+
+/// The sections by the words that lead to the subcommand; the options of the program itself under "".
+std::map<std::string, ManualSection> ReadManual(const std::set<std::string>& paths) {
+    std::istringstream page(std::regex_replace(ReadAll(packaging + "/wxbrg.1"), std::regex(R"(\\-)"), "-"));
+    std::map<std::string, ManualSection> sections;
+    ManualSection* current = nullptr;
+    bool tag = false;
+    for (std::string line; std::getline(page, line); tag = line == ".TP") {
+        if (line.starts_with(".SH ")) current = line == ".SH OPTIONS" ? &sections[""] : nullptr;
+        if (line.starts_with(".SS ")) {
+            const std::string heading = std::regex_replace(line.substr(4), std::regex(R"([\[\]])"), "");
+            std::string path = heading.substr(0, heading.find(' '));
+            const std::string two = heading.substr(0, heading.find(' ', path.size() + 1));
+            if (paths.contains(two)) path = two;
+            current = &sections[path];
+            current->heading = heading;
+        }
+        if (!tag || current == nullptr) continue;
+        const std::regex option(R"(--?[a-z][a-z-]*)");
+        for (std::sregex_iterator found(line.begin(), line.end(), option), end; found != end; ++found)
+            current->options.insert(found->str());
+    }
+    return sections;
+}
+
+TEST_F(Documents, ManualPageTellsTheSubcommandsAndOptionsThatThereAre) {
+    Names paths;
+    for (const auto& [path, part] : parts) paths.insert(path);
+    // The list of options is told under the subcommand's own name.
+    std::map<std::string, ManualSection> sections = ReadManual(paths);
+    ASSERT_TRUE(sections.contains("options list"));
+    sections["options"] = sections["options list"];
+    Names told;
+    for (const auto& [path, section] : sections) told.insert(path);
+    EXPECT_THAT(told, ContainerEq(paths));
+    for (const auto& [path, part] : parts) {
+        const Names general = path.empty() ? Names() : Names{"-h", "--help"};
+        EXPECT_THAT(sections[path].options, ContainerEq(OptionsOf(*part, general)))
+            << "section \"" << path << '"';
+    }
+}
+
+TEST_F(Documents, ManualPageNamesTheArgumentsOfEachSubcommand) {
+    Names paths;
+    for (const auto& [path, part] : parts) paths.insert(path);
+    std::map<std::string, ManualSection> sections = ReadManual(paths);
+    for (const auto& [path, part] : parts)
+        for (const CLI::Option* option : part->get_options())
+            if (option->get_positional()) {
+                EXPECT_THAT(sections[path].heading, HasSubstr(" " + option->get_name())) << path;
+            }
+}
+
+TEST_F(Documents, ManualPageTellsEachExportOptionWithItsDefault) {
+    const std::string page = ReadAll(packaging + "/wxbrg.1");
+    for (const ExportOption& option : exportOptions) {
+        const std::string byDefault = option.byDefault < 0 ? "\\-1" : std::to_string(option.byDefault);
+        EXPECT_THAT(page, HasSubstr(".BR " + std::string(option.valueName) + " \" (" + byDefault + ")\"\n"));
+    }
+    for (const std::string_view name : StoredValueNames()) EXPECT_THAT(page, HasSubstr(std::string(name)));
+}
+
+/// What bash offers behind the words, the last of which is the one to complete.
+std::vector<std::string> Completions(const std::vector<std::string>& words) {
+    std::vector<std::string> command{"bash",
+                                     "--norc",
+                                     "-c",
+                                     "source \"$0\"\n"
+                                     "COMP_WORDS=(\"$@\")\n"
+                                     "COMP_CWORD=$(($# - 1))\n"
+                                     "_wxbrg\n"
+                                     "printf '%s\\n' \"${COMPREPLY[@]}\"\n",
+                                     packaging + "/wxbrg.bash",
+                                     "wxbrg"};
+    command.insert(command.end(), words.begin(), words.end());
+    const ProcessResult result = RunProcess(command);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+    std::istringstream out(result.out);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(out, line);)
+        if (!line.empty()) lines.push_back(line);
+    return lines;
+}
+
+/// The words of a path such as "options set", and one more.
+std::vector<std::string> Words(const std::string& path, const std::string& last) {
+    std::istringstream stream(path);
+    std::vector<std::string> words{std::istream_iterator<std::string>(stream), {}};
+    words.push_back(last);
+    return words;
+}
+
+TEST_F(Documents, CompletionOffersTheOptionsThatThereAre) {
+    for (const auto& [path, part] : parts)
+        EXPECT_THAT(Completions(Words(path, "-")), UnorderedElementsAreArray(OptionsOf(*part))) << path;
+}
+
+TEST_F(Documents, CompletionOffersTheSubcommandsThatThereAre) {
+    for (const std::string path : {"", "options"}) {
+        Names expected = OptionsOf(*parts.at(path));
+        expected.merge(NamesOf(*parts.at(path)));
+        EXPECT_THAT(Completions(Words(path, "")), UnorderedElementsAreArray(expected)) << path;
+    }
+}
+
+TEST_F(Documents, CompletionOffersTheNamesOfOptions) {
+    std::vector<std::string> settings;
+    for (const ExportOption& option : exportOptions) settings.push_back(std::string(option.valueName) + "=");
+    EXPECT_THAT(Completions({"export", "--set", ""}), UnorderedElementsAreArray(settings));
+    for (const std::string action : {"get", "set", "reset"})
+        EXPECT_THAT(Completions({"options", action, ""}), UnorderedElementsAreArray(StoredValueNames()));
+}
+
+TEST_F(Documents, CompletionKeepsToWhatIsTyped) {
+    EXPECT_THAT(Completions({"ex"}), testing::ElementsAre("export"));
+    EXPECT_THAT(Completions({"export", "--st"}), testing::ElementsAre("--strict"));
+    EXPECT_THAT(Completions({"export", "--language", "D"}), testing::ElementsAre("DEU"));
+}
+
+TEST_F(Documents, CompletionOffersFilesWhereFilesAreDue) {
+    EXPECT_THAT(Completions({"export", packaging + "/wxbrg.b"}), testing::IsEmpty());
+    EXPECT_THAT(Completions({"export", "--types", packaging + "/wxbrg.b"}),
+                testing::ElementsAre(packaging + "/wxbrg.bash"));
+    EXPECT_THAT(Completions({"replay", packaging.substr(0, packaging.size() - 1)}),
+                testing::ElementsAre(packaging));
+}
+
+}  // namespace
+}  // namespace wxbrg::cli
