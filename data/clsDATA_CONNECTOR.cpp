@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "data/clsDATA_MEMBER.h"
-#include "model/ConnectorText.h"
+#include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/WindowLayout.h"
 #include "model/clsACTIVITY.h"

@@ -2,7 +2,7 @@
 
 #include "data/RelatedObjects.h"
 #include "data/clsDATA_CONNECTOR.h"
-#include "model/ConnectorText.h"
+#include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsPROCESS.h"
@@ -16,22 +16,17 @@ bool IsInModel(const ARISObjDef& object, const clsPROCESS& process) {
     return object->OccListInModel(process.ARIS_Model).Count() > 0;
 }
 
+constexpr BetweenActivities<clsDATA_CONNECTOR> dataFlow{
+    &clsACTIVITY::Col_DATA_CONNECTOR_IN, &clsACTIVITY::Col_DATA_CONNECTOR_OUT,
+    &clsPROCESS::Col_DATA_CONNECTOR, &clsPROCESS::DataFlow, 3080};
+
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
     const Ref<clsDATA_CONNECTOR> connector = gPool.Create<clsDATA_CONNECTOR>();
     connector->ConnectorKind = ConnectorKind::activityToActivity;
-    connector->FROM_ARISObjectDefinition = from;
-    connector->TO_ARISObjectDefinition = to;
-    connector->PROCESS = &process;
-    connector->FindARISObjectDefinitionsOnConnectorPaths();
-    const std::string key = connector->Key();
-    if (const Ref<clsACTIVITY> entered = CompleteActivity(process, to))
-        entered->Col_DATA_CONNECTOR_IN.AddNew(connector, key);
-    if (const Ref<clsACTIVITY> left = CompleteActivity(process, from))
-        left->Col_DATA_CONNECTOR_OUT.AddNew(connector, key);
-    if (gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
-        NoteConnector(Severity::exclamation, 3140, from, to);
-    if (process.Col_DATA_CONNECTOR.AddNew(connector, key)) process.DataFlow.Add(from->Guid(), to->Guid());
-    NoteConnector(Severity::information, 3080, from, to);
+    AddBetweenActivities(dataFlow, connector, process, from, to, [&] {
+        if (gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
+            NoteConnector(Severity::exclamation, 3140, from, to);
+    });
 }
 
 void FindConnectorsBetweenActivities(clsPROCESS& process, const Collection<ARISObjDef>& functions) {

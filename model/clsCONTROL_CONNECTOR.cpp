@@ -1,6 +1,6 @@
 #include "model/clsCONTROL_CONNECTOR.h"
 
-#include "model/ConnectorText.h"
+#include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsPROCESS.h"
 #include "model/modPoint.h"

@@ -1,6 +1,6 @@
 #include "model/modCONTROL_CONNECTOR.h"
 
-#include "model/ConnectorText.h"
+#include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsCONTROL_CONNECTOR.h"
@@ -11,22 +11,16 @@ namespace wxbrg {
 
 namespace {
 
+constexpr BetweenActivities<clsCONTROL_CONNECTOR> controlFlow{
+    &clsACTIVITY::Col_CONTROL_CONNECTOR_IN, &clsACTIVITY::Col_CONTROL_CONNECTOR_OUT,
+    &clsPROCESS::Col_CONTROL_CONNECTOR, &clsPROCESS::ControlFlow, 3070};
+
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
     const Ref<clsCONTROL_CONNECTOR> connector = gPool.Create<clsCONTROL_CONNECTOR>();
-    connector->FROM_ARISObjectDefinition = from;
-    connector->TO_ARISObjectDefinition = to;
-    connector->PROCESS = &process;
-    connector->FindARISObjectDefinitionsOnConnectorPaths();
-    const std::string key = connector->Key();
-    if (const Ref<clsACTIVITY> entered = CompleteActivity(process, to))
-        entered->Col_CONTROL_CONNECTOR_IN.AddNew(connector, key);
-    if (const Ref<clsACTIVITY> left = CompleteActivity(process, from))
-        left->Col_CONTROL_CONNECTOR_OUT.AddNew(connector, key);
-    if (gOptFindControlFlowLoops && connector->IsMemberOfInvalidControlFlowLoop(process))
-        NoteConnector(Severity::exclamation, 3130, from, to);
-    if (process.Col_CONTROL_CONNECTOR.AddNew(connector, key))
-        process.ControlFlow.Add(from->Guid(), to->Guid());
-    NoteConnector(Severity::information, 3070, from, to);
+    AddBetweenActivities(controlFlow, connector, process, from, to, [&] {
+        if (gOptFindControlFlowLoops && connector->IsMemberOfInvalidControlFlowLoop(process))
+            NoteConnector(Severity::exclamation, 3130, from, to);
+    });
 }
 
 }  // namespace

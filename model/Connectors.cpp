@@ -1,4 +1,4 @@
-#include "model/ConnectorText.h"
+#include "model/Connectors.h"
 
 #include <optional>
 
