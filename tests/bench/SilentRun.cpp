@@ -1,0 +1,84 @@
+#include "tests/bench/SilentRun.h"
+
+#include <sstream>
+#include <utility>
+
+#include "data/StructureIndex.h"
+#include "mapping/modMappingRule_rules.h"
+#include "options/ExportOptions.h"
+#include "options/modUtilities_language.h"
+#include "run/clsARIS_Interface.h"
+#include "run/clsExceptionHandler.h"
+#include "run/clsIOHandler.h"
+#include "run/modGlobals.h"
+
+namespace wxbrg::bench {
+
+namespace {
+
+constexpr std::int32_t english = 1033;
+constexpr const char* logInMemory = "out.log";
+
+/// A text for every number that a message can have.
+MemoryLanguageLibraries::Texts PlainTexts() {
+    constexpr std::uint32_t firstMessage = 1000;
+    constexpr std::uint32_t lastMessage = 4100;
+    MemoryLanguageLibraries::Texts texts;
+    for (std::uint32_t number = firstMessage; number <= lastMessage; number += 10)
+        texts[number] = "%1$s|%2$s|%3$s|%4$s";
+    return texts;
+}
+
+}  // namespace
+
+SilentRun::SilentRun() : SilentRun(memory_, "out.wpx") {}
+
+SilentRun::SilentRun(FileSystem& files, std::string output)
+    : output_(std::move(output)),
+      platform_{profileStore_, languageLibraries_, codePage_,        clock_,    userLocale_, files,
+                messageBox_,   fileDialog_,        optionsFormView_, progress_, "",          "wxbrg"} {
+    languageLibraries_.Put("wxbrgENU.dll", PlainTexts());
+}
+
+SilentRun::~SilentRun() {
+    RenewGlobals();
+}
+
+RunReport SilentRun::Export(aris::Automation& automation, std::vector<ARISModel> models,
+                            std::size_t stackSize) {
+    script_ = AnswerScript::Parse("options ok\nfile " + output_);
+    RunRequest request;
+    request.selection = ExportSelection{"user", "Demo", "LOCAL", "", english, std::move(models)};
+    request.stackSize = stackSize;
+    return RunExport(request, platform_, automation);
+}
+
+void SilentRun::Begin() {
+    RenewGlobals();
+    gPlatform = &platform_;
+    LoadLocalizedResources();
+    gExceptionHandler = gPool.Create<clsExceptionHandler>();
+    gIOHandler = gPool.Create<clsIOHandler>();
+    gIOHandler->sOutputFileName = output_;
+    gIOHandler->sLogFileName = logInMemory;
+    gIOHandler->AllocateFile(logInMemory);
+    gStructureIndex = gPool.Create<StructureIndex>();
+    gLocale = english;
+    gDataStructureNamePrefix = "DATA_STRUCTURE_";
+    for (const ExportOption& option : exportOptions)
+        if (option.flag != nullptr) gBlock.*option.flag = option.byDefault != 0;
+    CreateDefaultMappingRules();
+    gCurrentProcedure = "modMain.Main";
+}
+
+std::vector<std::string> SilentRun::LogLines() const {
+    std::istringstream log(memory_.Bytes(logInMemory).value_or(""));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(log, line);) {
+        if (line.ends_with('\r')) line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+}  // namespace wxbrg::bench
