@@ -1,5 +1,7 @@
 #include "data/RelatedObjects.h"
 
+#include <algorithm>
+
 #include "mapping/modMappingRule_lookups.h"
 #include "mapping/modMappingRule_rules.h"
 #include "run/Frame.h"
@@ -27,11 +29,11 @@ bool RelatedObjects::TakeStep(Frame& frame) {
     if (object->TypeNum() != mapping.SourceObjTypeNum) return true;
     Collection<ARISObjDef> steps;
     Find_Related_ARIS_ObjDef(steps, object, mapping.CnxKind, mapping.CnxTypeNum, mapping.TargetObjTypeNum);
-    for (const ARISObjDef& step : steps) {
-        if (mapping.IsChainedConnection())
-            intermediates_.insert(intermediates_.begin(), step);
-        else
-            reached_.insert(std::string(step->Guid()));
+    if (mapping.IsChainedConnection()) {
+        for (const ARISObjDef& step : steps) intermediates_.push_back(step);
+        std::reverse(intermediates_.begin(), intermediates_.end());
+    } else {
+        for (const ARISObjDef& step : steps) reached_.insert(std::string(step->Guid()));
     }
     chained_ = mapping.TargetObjRule;
     return true;

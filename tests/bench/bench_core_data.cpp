@@ -100,12 +100,12 @@ BENCHMARK(StaffChain)
     ->Complexity();
 BENCHMARK(EqualStructures)
     ->RangeMultiplier(10)
-    ->Range(10, 10000)
+    ->Range(100, 100000)
     ->Unit(benchmark::kMillisecond)
     ->Complexity();
 BENCHMARK(FindStructures<ByIndex>)
     ->RangeMultiplier(10)
-    ->Range(10, 10000)
+    ->Range(100, 100000)
     ->Unit(benchmark::kMillisecond)
     ->Complexity();
 BENCHMARK(FindStructures<ByWalk>)

@@ -185,7 +185,7 @@ void DataObjectOfAllModels(benchmark::State& state) {
 
 BENCHMARK(LoopTests<ForwardChain>)
     ->RangeMultiplier(10)
-    ->Range(100, 100000)
+    ->Range(100, 1000000)
     ->Unit(benchmark::kMillisecond)
     ->Complexity();
 BENCHMARK(LoopTests<BackwardChain>)

@@ -17,14 +17,14 @@
 namespace wxbrg::bench {
 namespace {
 
-TEST(FlowCostTest, ALoopOfAHundredThousandConnectorsIsFoundOnAStackOfAFewPages) {
-    constexpr std::size_t fewPages = std::size_t{64} << 10U;
+TEST(FlowCostTest, ALoopOfAHundredThousandConnectorsIsFoundOnASmallStack) {
+    constexpr std::size_t smallStack = std::size_t{256} << 10U;
     constexpr std::int64_t connectors = 100000;
     FlowLoops loops;
     for (std::int64_t i = 0; i + 1 < connectors; ++i) loops.Add(Numbered("guid", i), Numbered("guid", i + 1));
     bool closes = false;
     bool closesWithoutIt = true;
-    OnReservedStack(fewPages, [&](const char*) {
+    OnReservedStack(smallStack, [&](const char*) {
         closes = loops.ClosesLoop(Numbered("guid", connectors - 1), Numbered("guid", 0));
         closesWithoutIt = loops.ClosesLoop("another guid", Numbered("guid", 0));
     });

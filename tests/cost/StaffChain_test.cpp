@@ -19,19 +19,13 @@ using testing::SizeIs;
 
 constexpr std::size_t smallStack = std::size_t{1} << 20U;
 
-/// A line "WXB03060I Person 1|T46|PERSON|%4$s" of the log of a run.
-std::string PersonLine(std::string_view id, std::string_view text) {
-    return std::string(id).append(" ").append(text);
-}
-
-/// The notes that a chain of persons leaves: names are turned into identifiers going in, and coming out of
-/// the chain the last person is finished first.
+/// The notes on the persons of a chain, each written when the one behind it is finished: the last one first.
 std::vector<std::string> FinishedPersons(std::int64_t persons) {
     std::vector<std::string> lines;
     for (std::int64_t number = persons - 1; number >= 0; --number) {
         const std::string identifier = Numbered("PERSON", number).replace(6, 1, "_");
-        lines.push_back(PersonLine("WXB03090I", "PERSON|'" + identifier + "'|%3$s|%4$s"));
-        lines.push_back(PersonLine("WXB03060I", Numbered("Person", number) + "|T46|PERSON|%4$s"));
+        lines.push_back("WXB03090I PERSON|'" + identifier + "'|%3$s|%4$s");
+        lines.push_back("WXB03060I " + Numbered("Person", number) + "|T46|PERSON|%4$s");
     }
     return lines;
 }
@@ -39,7 +33,7 @@ std::vector<std::string> FinishedPersons(std::int64_t persons) {
 std::vector<std::string> LinesOfPersons(const SilentRun& run) {
     std::vector<std::string> lines;
     for (const std::string& line : run.LogLines())
-        if ((line.starts_with("WXB03090I PERSON|") || line.starts_with("WXB03060I Person ")))
+        if (line.starts_with("WXB03090I PERSON|") || line.starts_with("WXB03060I Person "))
             lines.push_back(line);
     return lines;
 }
