@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <exception>
 #include <iostream>
 #include <memory>
@@ -58,6 +59,8 @@ std::unique_ptr<aris::Automation> OpenCatalogue(aris::Catalogue& catalogue) {
 }
 
 int Run(const std::vector<std::string>& arguments) {
+    // A file that meets the limit on its size is then a failed write, with its box, and no sudden end.
+    std::signal(SIGXFSZ, SIG_IGN);
     const ProgramLocation program = RunningProgram();
     PosixProfileStore profileStore(DefaultProfileStoreFiles());
     DlLanguageLibraries languageLibraries(program.directory);
