@@ -109,7 +109,7 @@ void frmExportOptions::SaveOptions() {
     }
 }
 
-void frmExportOptions::SetText(std::string text) {
+void frmExportOptions::SetText(const std::string& text) {
     ControlOf(NumberOption()).text = std::string(Left(text, suffixLength));
     SetDirty(true);
 }

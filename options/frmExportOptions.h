@@ -50,7 +50,7 @@ class frmExportOptions : public OptionsFormEvents {
 
     void Form_Load();
     void cmdCancel_Click();
-    void SetText(std::string text);
+    void SetText(const std::string& text);
     Control& ControlOf(const ExportOption& option);
     const Control& ControlOf(const ExportOption& option) const;
     void LoadNumber(const ProfileValue& stored, Control& control);

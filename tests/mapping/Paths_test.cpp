@@ -4,6 +4,7 @@
 
 #include "mapping/modMappingRule_lookups.h"
 #include "mapping/modPath.h"
+#include "platform/RunStack.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {
@@ -101,6 +102,31 @@ TEST_F(RelatingPathsTest, PathsAreContinuedByThoseOfThePrefixThatEndAtTheStart) 
 TEST_F(RelatingPathsTest, APathFromAnObjectToItselfHoldsItAtBothEnds) {
     Flow({start, Event("again"), start});
     EXPECT_THAT(Paths(start, start), ElementsAre("start > again > start"));
+}
+
+TEST_F(RelatingPathsTest, ACircleThatTheRelationTestMeetsEndsTheRun) {
+    const Ref<FakeObject> circle = RuleObject("circle");
+    Flow({start, RuleObject("rule"), circle, circle, end});
+    EXPECT_EQ(EndOf([&] {
+                  Paths(start, end);
+              }),
+              2230);
+    EXPECT_THAT(Boxes(), ElementsAre("C2230 in modMappingRule.Find_Related_ARIS_ObjDef_Using_Mapping_Rule: "
+                                     "circle|T50"));
+}
+
+TEST_F(RelatingPathsTest, ACircleThatTheRelationTestDoesNotComeToUsesUpTheStack) {
+    // From the circle's one object the end is found first, each time anew.
+    const Ref<FakeObject> circle = RuleObject("circle");
+    Flow({start, circle, circle, end});
+    std::int32_t number = 0;
+    OnReservedStack(std::size_t{4} << 20U, [&](const char* stackEnd) {
+        gBlock.stackEnd = stackEnd;
+        number = EndOf([&] {
+            Paths(start, end);
+        });
+    });
+    EXPECT_EQ(number, FailureKind::outOfStackSpace);
 }
 
 class IsRelatedTest : public RelatingPathsTest {};

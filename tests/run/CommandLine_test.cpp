@@ -81,6 +81,7 @@ TEST_F(GetCommandLineTest, SearchesOnBehindAnEmptyValue) {
 
 TEST_F(GetCommandLineTest, WithoutARealValueTheLastBlankOneStays) {
     EXPECT_EQ(Value("/DB=  /DBX=x", "/DB"), "  ");
+    EXPECT_EQ(Value("/DB=  /DB=", "/DB"), "  ");
     EXPECT_EQ(Value("/DB=  /DB:", "/DB"), "");
 }
 

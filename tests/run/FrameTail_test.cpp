@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+#include <initializer_list>
 #include <limits>
 #include <stdexcept>
 
@@ -94,12 +96,29 @@ TEST_F(FrameTailTest, AStepOfTheCallerMeetsTheFailureOfTheInnerTail) {
 }
 
 TEST_F(FrameTailTest, WithoutACallersFrameTheFailureOfTheTailLeavesTheProcedure) {
-    const auto run = [] {
-        Procedure("test.P", [](Frame&) {
-            throw Failure(-40000);
+    const auto thrown = [](Frame&) {
+        throw Failure(-40000);
+    };
+    const auto raised = [](Frame& frame) {
+        frame.RaiseBare(40000);
+    };
+    const auto inAStep = [](Frame& frame) {
+        frame.Step([] {
+            throw Failure(40000);
         });
     };
-    EXPECT_THAT(run, Fails(FailureKind::overflow));
+    const auto raisedInAStep = [](Frame& frame) {
+        frame.Step([&] {
+            frame.RaiseBare(40000);
+        });
+    };
+    for (const std::function<void(Frame&)>& body :
+         std::initializer_list<std::function<void(Frame&)>>{thrown, raised, inAStep, raisedInAStep})
+        EXPECT_THAT(
+            [&] {
+                Procedure("test.P", body);
+            },
+            Fails(FailureKind::overflow));
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 

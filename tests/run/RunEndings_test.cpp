@@ -15,11 +15,9 @@ namespace wxbrg {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::Invoke;
 using testing::IsEmpty;
 using testing::NiceMock;
-using testing::Return;
 using testing::Throw;
 
 constexpr std::string_view programKey = R"(Software\Quenby\Tarnlight Workflow Aris Bridge\CurrentVersion)";
@@ -131,12 +129,14 @@ TEST_F(RunEndingsTest, AStackThatRunsOutEndsInOneBox) {
     EXPECT_THAT(Boxes(), ElementsAre(UnknownFailureBox(28, "test.Recurse", "out of stack space")));
 }
 
-TEST_F(RunEndingsTest, TheStackOfARunHoldsDeepRecursion) {
-    EXPECT_CALL(automation_, CreateObject).WillOnce(Invoke([](std::string_view) {
+TEST_F(RunEndingsTest, TheStackOfARunHoldsRecursionThatAnOrdinaryOneDoesNot) {
+    EXPECT_CALL(automation_, CreateObject).Times(2).WillRepeatedly(Invoke([](std::string_view) {
         Recurse(200'000);
         return ARISApplication();
     }));
     EXPECT_EQ(Run().number, 2010);
+    request_.stackSize = std::size_t{8} << 20U;
+    EXPECT_EQ(Run().number, 28);
 }
 
 TEST_F(RunEndingsTest, AStackThatIsTooSmallForAnyProcedureIsAnErrorAndNoCrash) {
