@@ -1,7 +1,9 @@
 #include "support/Numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <string>
 
 #include "support/Text.h"
@@ -62,6 +64,29 @@ class NumberReader {
     std::string plain_;
 };
 
+/// The exponent of a number in the form that std::from_chars takes; at the end of the range beyond it.
+std::int64_t ExponentOf(std::string_view plain) {
+    constexpr std::int64_t beyond = std::numeric_limits<std::int64_t>::max() / 2;
+    const std::size_t mark = plain.find('e');
+    if (mark == std::string_view::npos) return 0;
+    std::string_view digits = plain.substr(mark + 1);
+    if (digits.starts_with('+')) digits.remove_prefix(1);
+    std::int64_t exponent = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    if (result.ec == std::errc()) return exponent;
+    return digits.starts_with('-') ? -beyond : beyond;
+}
+
+/// Whether a number that is not 0 lies between -1 and 1, for one of any size in the form that std::from_chars
+/// takes.
+bool IsBelowOne(std::string_view plain) {
+    const std::string_view mantissa = plain.substr(0, plain.find('e'));
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto leading = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    const std::int64_t wholeDigits = leading < point ? point - leading : point + 1 - leading;
+    return wholeDigits + ExponentOf(plain) <= 0;
+}
+
 double ToDouble(std::string_view text, char32_t decimalSeparator) {
     NumberReader reader(text, decimalSeparator);
     if (!reader.Read()) throw Failure(FailureKind::typeMismatch);
@@ -69,9 +94,7 @@ double ToDouble(std::string_view text, char32_t decimalSeparator) {
     double value = 0;
     const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        const std::size_t exponent = plain.find('e');
-        const bool tiny = exponent != std::string::npos && plain.find('-', exponent) != std::string::npos;
-        if (!tiny) throw Failure(FailureKind::overflow);
+        if (!IsBelowOne(plain)) throw Failure(FailureKind::overflow);
         return 0;
     }
     return value;

@@ -15,15 +15,18 @@ class Pool {
     /// Makes an object that lives as long as the pool.
     template <class T, class... Arguments>
     Ref<T> Create(Arguments&&... arguments) {
-        T* object = new T(std::forward<Arguments>(arguments)...);
-        objects_.emplace_back(object, [](void* owned) {
+        auto object = std::make_unique<T>(std::forward<Arguments>(arguments)...);
+        objects_.push_back(Owned(nullptr, [](void* owned) {
             delete static_cast<T*>(owned);
-        });
-        return object;
+        }));
+        objects_.back().reset(object.get());
+        return object.release();
     }
 
   private:
-    std::vector<std::unique_ptr<void, void (*)(void*)>> objects_;
+    using Owned = std::unique_ptr<void, void (*)(void*)>;
+
+    std::vector<Owned> objects_;
 };
 
 }  // namespace wxbrg

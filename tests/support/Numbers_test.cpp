@@ -67,7 +67,11 @@ TEST(ToInt32, IsFailure13ForATextThatIsNoNumber) {
 TEST(ToInt32, IsFailure6BeyondThirtyTwoBitsAfterRounding) {
     EXPECT_EQ(ToInt32("2147483647.4", U'.'), int32Max);
     EXPECT_EQ(ToInt32("-2147483648.5", U'.'), int32Min);
-    for (const char* text : {"2147483647.5", "2147483648", "-2147483649", "1e10", "1e400", "-1e400"})
+    const std::string largeInDigits = "1" + std::string(700, '0') + "e-100";
+    for (const std::string& text :
+         {std::string("2147483647.5"), std::string("2147483648"), std::string("-2147483649"),
+          std::string("1e10"), std::string("1e400"), std::string("-1e400"),
+          std::string("1e99999999999999999999"), std::string("0.001e999999"), largeInDigits})
         EXPECT_THAT(
             [&] {
                 ToInt32(text, U'.');
@@ -79,6 +83,11 @@ TEST(ToInt32, IsFailure6BeyondThirtyTwoBitsAfterRounding) {
 TEST(ToInt32, ReadsAVanishingNumberAsZero) {
     EXPECT_EQ(ToInt32("1e-400", U'.'), 0);
     EXPECT_EQ(ToInt32("-1e-400", U'.'), 0);
+    EXPECT_EQ(ToInt32("0." + std::string(400, '0') + "1", U'.'), 0);
+    EXPECT_EQ(ToInt32("." + std::string(400, '0') + "1e+10", U'.'), 0);
+    EXPECT_EQ(ToInt32("1e-99999999999999999999", U'.'), 0);
+    EXPECT_EQ(ToInt32("0e99999999999999999999", U'.'), 0);
+    EXPECT_EQ(ToInt32("0." + std::string(400, '0') + "15e401", U'.'), 2);
 }
 
 TEST(ToInt16, HasItsOwnRange) {
