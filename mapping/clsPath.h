@@ -5,7 +5,7 @@
 
 namespace wxbrg {
 
-/// A walk over ARIS objects between two ends: what one connector stands for.
+/// A walk over ARIS objects between two ends: one way in which a connector comes about.
 class clsPath {
   public:
     ARISObjDef FROM_ARISObjectDefinition;

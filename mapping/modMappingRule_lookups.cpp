@@ -1,5 +1,8 @@
 #include "mapping/modMappingRule_lookups.h"
 
+#include <map>
+#include <utility>
+
 #include "mapping/ArisTypes.h"
 #include "mapping/modMappingRule_rules.h"
 #include "mapping/modPath.h"
@@ -27,6 +30,61 @@ Collection<ARISObjDef> StepsFrom(const ARISObjDef& item, const clsConnectionMapp
     Find_Related_ARIS_ObjDef(steps, item, step.CnxKind, step.CnxTypeNum, step.TargetObjTypeNum);
     return steps;
 }
+
+constexpr std::string_view pathsProcedure = "modMappingRule.Find_Relating_Paths_Using_Mapping_Rule";
+constexpr std::string_view relationProcedure =
+    "modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule";
+
+/// One search for all paths to an object. Told plainly, it looks for the ways on from an object again with
+/// each way that leads there; here they are looked for once, and shared.
+class PathSearch {
+  public:
+    explicit PathSearch(const ARISObjDef& target) : target_(target) {}
+
+    /// The paths from an object by a rule, in the order of the rule.
+    PathCollection PathsFrom(Frame& frame, const ARISObjDef& from, std::string_view ruleName) {
+        const Ref<const clsMappingRule> rule = FetchRule(frame, ruleName);
+        PathCollection found;
+        for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
+            if (from->TypeNum() != mapping.SourceObjTypeNum) continue;
+            for (const ARISObjDef& step : StepsFrom(from, mapping)) {
+                if (!IsDrawn(step)) continue;
+                if (mapping.IsChainedConnection())
+                    AddOver(found, from, step, mapping.TargetObjRule);
+                else if (step->Guid() == target_->Guid())
+                    found.Add(CreatePath(from, step));
+            }
+        }
+        return found;
+    }
+
+  private:
+    using Key = std::pair<std::string_view, std::string_view>;  ///< Guid of the object, name of the rule
+
+    void AddOver(PathCollection& found, const ARISObjDef& from, const ARISObjDef& step,
+                 std::string_view ruleName) {
+        const Key key(step->Guid(), ruleName);
+        if (const auto known = tails_.find(key); known != tails_.end()) {
+            if (!known->second) return;
+            gCurrentProcedure = relationProcedure;  // as the relation test leaves it
+            found.Add({CreatePath(from, step), known->second});
+            return;
+        }
+        if (!ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule(step, target_, ruleName)) {
+            tails_.emplace(key, nullptr);
+            return;
+        }
+        const Ref<clsPath> head = CreatePath(from, step);
+        Procedure(pathsProcedure, [&](Frame& frame) {
+            const Ref<PathCollection> tails = gPool.Create<PathCollection>(PathsFrom(frame, step, ruleName));
+            found.Add(ConcatenatePath(head, tails));
+            tails_.emplace(key, tails);
+        });
+    }
+
+    const ARISObjDef& target_;
+    std::map<Key, Ref<const PathCollection>> tails_;  ///< empty: the rule does not lead to the target
+};
 
 }  // namespace
 
@@ -111,33 +169,14 @@ Collection<ARISObjDef>& Find_Related_ARIS_ObjDef(Collection<ARISObjDef>& result,
     return result;
 }
 
-std::optional<Collection<Ref<clsPath>>> Find_Relating_Paths_Using_Mapping_Rule(
-    const Collection<Ref<clsPath>>& prefixPaths, const ARISObjDef& fromObj, const ARISObjDef& toObj,
-    std::string_view ruleName) {
-    using Paths = Collection<Ref<clsPath>>;
-    return Procedure(
-        "modMappingRule.Find_Relating_Paths_Using_Mapping_Rule", [&](Frame& frame) -> std::optional<Paths> {
-            if (!IsDrawn(fromObj) || !IsDrawn(toObj)) return std::nullopt;
-            const Ref<const clsMappingRule> rule = FetchRule(frame, ruleName);
-            Paths found;
-            for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
-                if (fromObj->TypeNum() != mapping.SourceObjTypeNum) continue;
-                for (const ARISObjDef& step : StepsFrom(fromObj, mapping)) {
-                    if (!IsDrawn(step)) continue;
-                    if (!mapping.IsChainedConnection()) {
-                        if (step->Guid() == toObj->Guid()) found.Add(CreatePath(fromObj, step));
-                    } else if (ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule(
-                                   step, toObj, mapping.TargetObjRule)) {
-                        Paths head;
-                        head.Add(CreatePath(fromObj, step));
-                        const std::optional<Paths> whole =
-                            Find_Relating_Paths_Using_Mapping_Rule(head, step, toObj, mapping.TargetObjRule);
-                        for (const Ref<clsPath>& path : *whole) found.Add(path);
-                    }
-                }
-            }
-            return ConcatenatePaths(prefixPaths, found);
-        });
+std::optional<PathCollection> Find_Relating_Paths_Using_Mapping_Rule(const PathCollection& prefixPaths,
+                                                                     const ARISObjDef& fromObj,
+                                                                     const ARISObjDef& toObj,
+                                                                     std::string_view ruleName) {
+    return Procedure(pathsProcedure, [&](Frame& frame) -> std::optional<PathCollection> {
+        if (!IsDrawn(fromObj) || !IsDrawn(toObj)) return std::nullopt;
+        return ConcatenatePaths(prefixPaths, PathSearch(toObj).PathsFrom(frame, fromObj, ruleName));
+    });
 }
 
 bool ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule(const ARISObjDef& fromObj,
@@ -152,20 +191,19 @@ bool ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule(const ARISObjDef& 
             if (IsDrawn(end) && end->Guid() == toObj->Guid()) return true;
         return false;
     };
-    return Procedure("modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule",
-                     [&](Frame& frame) {
-                         if (!IsDrawn(fromObj) || !IsDrawn(toObj)) return false;
-                         const Ref<const clsMappingRule> rule = FetchRule(frame, ruleName);
-                         for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
-                             if (fromObj->TypeNum() != mapping.SourceObjTypeNum) continue;
-                             for (const ARISObjDef& step : StepsFrom(fromObj, mapping)) {
-                                 if (!IsDrawn(step) || !arrives(step, mapping)) continue;
-                                 frame.KeepName();
-                                 return true;
-                             }
-                         }
-                         return false;
-                     });
+    return Procedure(relationProcedure, [&](Frame& frame) {
+        if (!IsDrawn(fromObj) || !IsDrawn(toObj)) return false;
+        const Ref<const clsMappingRule> rule = FetchRule(frame, ruleName);
+        for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
+            if (fromObj->TypeNum() != mapping.SourceObjTypeNum) continue;
+            for (const ARISObjDef& step : StepsFrom(fromObj, mapping)) {
+                if (!IsDrawn(step) || !arrives(step, mapping)) continue;
+                frame.KeepName();
+                return true;
+            }
+        }
+        return false;
+    });
 }
 
 bool ARIS_ObjDef_Conforms_To_Mapping_Rule(const ARISObjDef& item, std::string_view ruleName) {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "aris/Repository.h"
-#include "mapping/clsPath.h"
+#include "mapping/PathCollection.h"
 #include "support/Collection.h"
 #include "support/Ref.h"
 
@@ -54,10 +54,12 @@ Collection<ARISObjDef>& Find_Related_ARIS_ObjDef(Collection<ARISObjDef>& result,
                                                  std::int32_t targetObjTypeNum);
 
 /// All paths by which a rule leads from one object to another, behind the paths of `prefixPaths` that end at
-/// `fromObj`. Nothing, which is not an empty collection, where one of the two is not drawn anywhere.
-std::optional<Collection<Ref<clsPath>>> Find_Relating_Paths_Using_Mapping_Rule(
-    const Collection<Ref<clsPath>>& prefixPaths, const ARISObjDef& fromObj, const ARISObjDef& toObj,
-    std::string_view ruleName);
+/// `fromObj`. Nothing, which is not an empty collection, where one of the two is not drawn anywhere. Cost:
+/// one relation test for each object and rule on the ways, however many paths these make.
+std::optional<PathCollection> Find_Relating_Paths_Using_Mapping_Rule(const PathCollection& prefixPaths,
+                                                                     const ARISObjDef& fromObj,
+                                                                     const ARISObjDef& toObj,
+                                                                     std::string_view ruleName);
 
 /// Whether a rule leads from one object to another. A positive answer leaves this procedure's name in
 /// `gCurrentProcedure`.

@@ -7,17 +7,31 @@ namespace wxbrg {
 
 namespace {
 
-/// `head` and `tail` in one, the object where they meet between them.
-Ref<clsPath> Join(const clsPath& head, const clsPath& tail) {
-    const Ref<clsPath> joined = gPool.Create<clsPath>();
-    joined->FROM_ARISObjectDefinition = head.FROM_ARISObjectDefinition;
-    joined->TO_ARISObjectDefinition = tail.TO_ARISObjectDefinition;
-    Collection<ARISObjDef>& between = joined->ColARISObjectDefinitionsOnPath;
-    for (const ARISObjDef& object : head.ColARISObjectDefinitionsOnPath) between.Add(object, object->Guid());
-    const ARISObjDef& joint = head.TO_ARISObjectDefinition;
-    between.Add(joint, joint->Guid());
-    for (const ARISObjDef& object : tail.ColARISObjectDefinitionsOnPath) between.Add(object, object->Guid());
-    return joined;
+/// Throws failure 457 where a path that goes on from a head would hold an object for the second time.
+void RequireNew(const ARISObjDef& object, const PathCollection& tails) {
+    if (tails.SomePassThrough(object->Guid())) throw Failure(FailureKind::duplicateKey);
+}
+
+PathCollection::Entry Join(const Ref<clsPath>& head, const Ref<const PathCollection>& tails) {
+    const ARISObjDef& joint = head->TO_ARISObjectDefinition;
+    if (head->ColARISObjectDefinitionsOnPath.Find(joint->Guid()) != nullptr)
+        throw Failure(FailureKind::duplicateKey);
+    for (const ARISObjDef& object : head->ColARISObjectDefinitionsOnPath) RequireNew(object, *tails);
+    RequireNew(joint, *tails);
+    return {head, tails};
+}
+
+/// Adds the ways of going on with `second` from the paths of one entry.
+void AddJoined(PathCollection& joined, const PathCollection::Entry& first, const PathCollection& second) {
+    const Ref<PathCollection> tails = gPool.Create<PathCollection>();
+    if (first.tails) {
+        for (const PathCollection::Entry& tail : *first.tails) AddJoined(*tails, tail, second);
+    } else {
+        for (const PathCollection::Entry& tail : second)
+            if (first.head->TO_ARISObjectDefinition->Guid() == tail.head->FROM_ARISObjectDefinition->Guid())
+                tails->Add(tail);
+    }
+    if (!tails->IsEmpty()) joined.Add(Join(first.head, tails));
 }
 
 }  // namespace
@@ -31,24 +45,24 @@ Ref<clsPath> CreatePath(const ARISObjDef& fromObj, const ARISObjDef& toObj) {
     });
 }
 
-Collection<Ref<clsPath>> ClonePaths(const Collection<Ref<clsPath>>& paths) {
+PathCollection ClonePaths(const PathCollection& paths) {
     return Procedure("modPath.ClonePaths", [&](Frame&) {
-        Collection<Ref<clsPath>> clone;
-        for (const Ref<clsPath>& path : paths) clone.Add(path);
-        return clone;
+        return paths;
     });
 }
 
-Collection<Ref<clsPath>> ConcatenatePaths(const Collection<Ref<clsPath>>& first,
-                                          const Collection<Ref<clsPath>>& second) {
+PathCollection ConcatenatePaths(const PathCollection& first, const PathCollection& second) {
     return Procedure("modPath.ConcatenatePaths", [&](Frame&) {
         if (first.IsEmpty() || second.IsEmpty()) return ClonePaths(first.IsEmpty() ? second : first);
-        Collection<Ref<clsPath>> joined;
-        for (const Ref<clsPath>& head : first)
-            for (const Ref<clsPath>& tail : second)
-                if (head->TO_ARISObjectDefinition->Guid() == tail->FROM_ARISObjectDefinition->Guid())
-                    joined.Add(Join(*head, *tail));
+        PathCollection joined;
+        for (const PathCollection::Entry& entry : first) AddJoined(joined, entry, second);
         return joined;
+    });
+}
+
+PathCollection::Entry ConcatenatePath(const Ref<clsPath>& head, const Ref<const PathCollection>& tails) {
+    return Procedure("modPath.ConcatenatePaths", [&](Frame&) {
+        return Join(head, tails);
     });
 }
 

@@ -26,13 +26,12 @@ void NoteConnector(std::int16_t severity, std::int32_t number, const ARISObjDef&
     WriteNote(severity, number, from->Type(), from->Name(gLocale), to->Type(), to->Name(gLocale));
 }
 
-Collection<Ref<clsPath>> ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule) {
-    std::optional<Collection<Ref<clsPath>>> paths =
-        Find_Relating_Paths_Using_Mapping_Rule({}, from, to, rule);
-    return paths ? std::move(*paths) : Collection<Ref<clsPath>>();
+PathCollection ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule) {
+    std::optional<PathCollection> paths = Find_Relating_Paths_Using_Mapping_Rule({}, from, to, rule);
+    return paths ? std::move(*paths) : PathCollection();
 }
 
-void SetupConnectorDescription(std::string& description, const Collection<Ref<clsPath>>& paths) {
+void SetupConnectorDescription(std::string& description, const PathCollection& paths) {
     const std::string text = SetupPrintingOfConnectorAttribute(paths, "CONTROL_CONNECTOR_DESCRIPTION");
     if (!text.empty()) description = Quoted(ConvertARISName(text, NameKind::description, ""));
 }

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "aris/Repository.h"
-#include "mapping/clsPath.h"
+#include "mapping/PathCollection.h"
 #include "model/FlowLoops.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsPROCESS.h"
@@ -29,11 +29,11 @@ std::string FromToText(const ARISObjDef& from, const ARISObjDef& to);
 void NoteConnector(std::int16_t severity, std::int32_t number, const ARISObjDef& from, const ARISObjDef& to);
 
 /// All paths between the ends of a connector by the rule that found it.
-Collection<Ref<clsPath>> ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule);
+PathCollection ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule);
 
 /// Fills a connector's description with the descriptions of all objects on its paths. Both sorts of
 /// connectors read the rule of the control connector.
-void SetupConnectorDescription(std::string& description, const Collection<Ref<clsPath>>& paths);
+void SetupConnectorDescription(std::string& description, const PathCollection& paths);
 
 /// The test for a circle, which leaves `gFailureContext` as its walk over the met objects does.
 bool ClosesLoop(FlowLoops& flow, const ARISObjDef& from, const ARISObjDef& to);

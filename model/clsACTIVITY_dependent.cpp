@@ -81,14 +81,10 @@ std::string clsACTIVITY::GetProperty_StartCondition(std::string_view RuleName, c
 }
 
 bool clsACTIVITY::IsOnAllIncomingPaths(const ARISObjDef& ruleObject) const {
-    const auto holds = [&](const Ref<clsPath>& path) {
-        return path->ColARISObjectDefinitionsOnPath.Find(ruleObject->Guid()) != nullptr;
-    };
-    bool onAll = true;
-    for (const Ref<clsCONTROL_CONNECTOR>& connector : Col_CONTROL_CONNECTOR_IN) {
-        const Collection<Ref<clsPath>>& paths = connector->ColPath;
-        onAll = onAll && std::all_of(paths.begin(), paths.end(), holds);
-    }
+    const bool onAll = std::all_of(Col_CONTROL_CONNECTOR_IN.begin(), Col_CONTROL_CONNECTOR_IN.end(),
+                                   [&](const Ref<clsCONTROL_CONNECTOR>& connector) {
+                                       return connector->ColPath.AllPassThrough(ruleObject->Guid());
+                                   });
     gFailureContext = "";
     return onAll;
 }

@@ -1,5 +1,8 @@
 #include "model/clsCONTROL_CONNECTOR.h"
 
+#include <functional>
+#include <utility>
+
 #include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsPROCESS.h"
@@ -28,6 +31,46 @@ std::string Comparison(const ARISObjDef& event, const Collection<ARISObjDef>& da
     if (data.Count() > 1) WriteNote(Severity::exclamation, 3120, event->Name(gLocale));
     return name + " " + compareOperator + " " + value;
 }
+
+/// Joins the conditions of the objects on a path by AND, and those of the paths by OR.
+class ConditionReader : public PathReader {
+  public:
+    using ConditionOfObject = std::function<std::string(const ARISObjDef&)>;
+
+    explicit ConditionReader(ConditionOfObject conditionOf) : conditionOf_(std::move(conditionOf)) {}
+
+    bool Read(const ARISObjDef& object) override {
+        const SeverityCounts notes = gRunReport.notes;
+        const SeverityCounts boxes = gRunReport.boxes;
+        const std::string condition = conditionOf_(object);
+        if (!condition.empty()) ofPath_.append(ofPath_.empty() ? "" : " AND ").append(condition);
+        return !condition.empty() || gRunReport.notes != notes || gRunReport.boxes != boxes;
+    }
+
+    /// Once two paths had a condition, one without takes over that of the last.
+    void EndPath() override {
+        const bool hasCondition = !ofPath_.empty();
+        if (hasCondition) {
+            last_ = std::exchange(ofPath_, {});
+            ++conditions_;
+        }
+        if (conditions_ > 1)
+            condition_.append(" OR ").append(last_);
+        else if (hasCondition)
+            condition_ = last_;
+    }
+
+    bool HeedsSilentPaths() const override { return conditions_ > 1; }
+
+    const std::string& Condition() const { return condition_; }
+
+  private:
+    ConditionOfObject conditionOf_;
+    std::string ofPath_;  ///< of the path being read, as far as it has been
+    std::string last_;
+    std::string condition_;
+    std::int32_t conditions_ = 0;  ///< paths that had one
+};
 
 }  // namespace
 
@@ -76,36 +119,17 @@ std::string clsCONTROL_CONNECTOR::ConditionOf(const ARISObjDef& object) {
     return condition;
 }
 
-std::string clsCONTROL_CONNECTOR::ConditionOf(const clsPath& path) {
-    std::string joined;
-    for (const ARISObjDef& object : path.ColARISObjectDefinitionsOnPath) {
-        const std::string condition = ConditionOf(object);
-        if (!condition.empty()) joined.append(joined.empty() ? "" : " AND ").append(condition);
-    }
-    return joined;
-}
-
 void clsCONTROL_CONNECTOR::SetupProperty_Condition() {
     Procedure("clsCONTROL_CONNECTOR.SetupProperty_Condition", [&](Frame& frame) {
         if (!ConnectorPathsAvailable) {
             frame.Raise(2080);
             return;
         }
-        std::string result;
-        std::string last;  // the last path's condition stays for a path without one
-        std::int32_t conditions = 0;
-        for (const Ref<clsPath>& path : ColPath) {
-            const std::string condition = ConditionOf(*path);
-            if (!condition.empty()) {
-                last = condition;
-                ++conditions;
-            }
-            if (conditions > 1)
-                result.append(" OR ").append(last);
-            else if (!condition.empty())
-                result = last;
-        }
-        if (!result.empty()) Condition = result;
+        ConditionReader reader([&](const ARISObjDef& object) {
+            return ConditionOf(object);
+        });
+        ReadPaths(ColPath, reader);
+        if (!reader.Condition().empty()) Condition = reader.Condition();
     });
 }
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "aris/Repository.h"
-#include "mapping/clsPath.h"
+#include "mapping/PathCollection.h"
 #include "support/Collection.h"
 #include "support/Ref.h"
 
@@ -18,8 +18,8 @@ class clsCONTROL_CONNECTOR {
   public:
     ARISObjDef FROM_ARISObjectDefinition;
     ARISObjDef TO_ARISObjectDefinition;
-    Ref<clsPROCESS> PROCESS;           ///< which holds the connector
-    Collection<Ref<clsPath>> ColPath;  ///< all paths from FROM to TO
+    Ref<clsPROCESS> PROCESS;  ///< which holds the connector
+    PathCollection ColPath;   ///< all paths from FROM to TO
     std::string Condition;
     std::string Linking;      ///< the two ends as printed; empty for a connector from an activity to itself
     std::string DESCRIPTION;  ///< printed, with its quotes
@@ -47,7 +47,6 @@ class clsCONTROL_CONNECTOR {
 
   private:
     std::string ConditionOf(const ARISObjDef& object);
-    std::string ConditionOf(const clsPath& path);
 };
 
 }  // namespace wxbrg

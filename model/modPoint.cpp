@@ -1,6 +1,7 @@
 #include "model/modPoint.h"
 
 #include <cstdlib>
+#include <vector>
 
 #include "model/WindowLayout.h"
 #include "model/clsPROCESS.h"
@@ -56,9 +57,8 @@ std::optional<clsPoint> CalculateGraphicalCenterOfARISObjects(const Collection<A
         });
 }
 
-void AddBendPoint(Frame& frame, std::string& layout, const Collection<Ref<clsPath>>& paths,
-                  bool pathsAvailable, const ARISObjDef& from, const ARISObjDef& to,
-                  const clsPROCESS& process) {
+void AddBendPoint(Frame& frame, std::string& layout, const PathCollection& paths, bool pathsAvailable,
+                  const ARISObjDef& from, const ARISObjDef& to, const clsPROCESS& process) {
     if (!pathsAvailable) {
         frame.Raise(2090);
         return;
@@ -67,15 +67,11 @@ void AddBendPoint(Frame& frame, std::string& layout, const Collection<Ref<clsPat
         frame.Raise(2060, process.ARIS_Model->Name(gLocale));
         return;
     }
-    Ref<clsPath> bent;
-    for (const Ref<clsPath>& path : paths) {
-        bent = path;
-        if (!path->ColARISObjectDefinitionsOnPath.IsEmpty()) break;
-    }
-    if (!bent || bent->ColARISObjectDefinitionsOnPath.IsEmpty()) return;
+    const std::vector<ARISObjDef> between = paths.FirstObjectsBetween();
+    if (between.empty()) return;
     Collection<ARISObjDef> objects;
     objects.Add(from);
-    for (const ARISObjDef& object : bent->ColARISObjectDefinitionsOnPath) objects.Add(object);
+    for (const ARISObjDef& object : between) objects.Add(object);
     objects.Add(to);
     const std::optional<clsPoint> point = CalculateGraphicalCenterOfARISObjects(objects, process);
     layout = TrimLeft(layout + " " + PositionText(point->XPos, point->YPos));

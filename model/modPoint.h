@@ -4,7 +4,7 @@
 #include <string>
 
 #include "aris/Repository.h"
-#include "mapping/clsPath.h"
+#include "mapping/PathCollection.h"
 #include "model/clsPoint.h"
 #include "run/Frame.h"
 #include "support/Collection.h"
@@ -24,8 +24,7 @@ std::optional<clsPoint> CalculateGraphicalCenterOfARISObjects(const Collection<A
 /// Adds a connector's one bend point to its layout: the mean of its ends and of the objects on the first of
 /// its paths that holds any. A direct connection has none. In the frame of a connector's procedure: the
 /// warning 2090 where the paths are not available, 2060 where the process has no layout yet.
-void AddBendPoint(Frame& frame, std::string& layout, const Collection<Ref<clsPath>>& paths,
-                  bool pathsAvailable, const ARISObjDef& from, const ARISObjDef& to,
-                  const clsPROCESS& process);
+void AddBendPoint(Frame& frame, std::string& layout, const PathCollection& paths, bool pathsAvailable,
+                  const ARISObjDef& from, const ARISObjDef& to, const clsPROCESS& process);
 
 }  // namespace wxbrg

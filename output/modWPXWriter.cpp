@@ -32,21 +32,39 @@ std::string AllAttributes(const ARISObjDef& object) {
     return lines;
 }
 
+/// Gathers the lines of all objects.
+class AttributeReader : public PathReader {
+  public:
+    explicit AttributeReader(std::string_view ruleName) : ruleName_(ruleName) {}
+
+    bool Read(const ARISObjDef& object) override {
+        if (object->OccList().Count() == 0) return false;
+        const std::string lines =
+            ruleName_.empty() ? AllAttributes(object) : AttributeByRule(object, ruleName_);
+        lines_ += lines;
+        return !lines.empty();
+    }
+    void EndPath() override {}
+    bool HeedsSilentPaths() const override { return false; }
+
+    const std::string& Lines() const { return lines_; }
+
+  private:
+    std::string_view ruleName_;
+    std::string lines_;
+};
+
 }  // namespace
 
 std::string Indent(std::int32_t Level) {
     return std::string(static_cast<std::size_t>(Level), '\t');
 }
 
-std::string SetupPrintingOfConnectorAttribute(const Collection<Ref<clsPath>>& ColPath,
-                                              std::string_view RuleName) {
+std::string SetupPrintingOfConnectorAttribute(const PathCollection& ColPath, std::string_view RuleName) {
     return Procedure("modWPXWriter.SetupPrintingOfConnectorAttribute", [&](Frame&) {
-        std::string lines;
-        for (const Ref<clsPath>& path : ColPath)
-            for (const ARISObjDef& object : path->ColARISObjectDefinitionsOnPath)
-                if (object->OccList().Count() > 0)
-                    lines += RuleName.empty() ? AllAttributes(object) : AttributeByRule(object, RuleName);
-        return lines;
+        AttributeReader reader(RuleName);
+        ReadPaths(ColPath, reader);
+        return reader.Lines();
     });
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "mapping/clsPath.h"
+#include "mapping/PathCollection.h"
 #include "support/Collection.h"
 #include "support/Ref.h"
 
@@ -15,7 +15,6 @@ std::string Indent(std::int32_t Level);
 
 /// The attribute of a rule of all drawn objects on the paths, a line each; without a rule all their
 /// attributes. Begins with a line break unless it is empty.
-std::string SetupPrintingOfConnectorAttribute(const Collection<Ref<clsPath>>& ColPath,
-                                              std::string_view RuleName = {});
+std::string SetupPrintingOfConnectorAttribute(const PathCollection& ColPath, std::string_view RuleName = {});
 
 }  // namespace wxbrg

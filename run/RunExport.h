@@ -47,6 +47,8 @@ struct SeverityCounts {
     std::uint64_t question = 0;     ///< 32
     std::uint64_t exclamation = 0;  ///< 48
     std::uint64_t information = 0;  ///< 64
+
+    bool operator==(const SeverityCounts&) const = default;
 };
 
 /// What there is to tell of a run that is over.

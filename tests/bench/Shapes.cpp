@@ -39,8 +39,8 @@ Ref<FakeObject> Drawing::EntityType(std::int64_t number) {
 }
 
 Ends AddDiamonds(Drawing& drawing, std::int64_t pairs) {
-    const Ends ends{drawing.Function(1), drawing.Function(2)};
-    Ref<FakeObject> top = drawing.RuleObject();
+    const Ends ends{drawing.Function(1), drawing.Function(2), drawing.RuleObject()};
+    Ref<FakeObject> top = ends.top;
     drawing.FunctionToRule(ends.from, top);
     for (std::int64_t pair = 0; pair < pairs; ++pair) {
         const Ref<FakeObject> next = drawing.RuleObject();
@@ -57,7 +57,7 @@ Ends AddDiamonds(Drawing& drawing, std::int64_t pairs) {
 
 Ends AddGrid(Drawing& drawing, std::int64_t width) {
     constexpr int rows = 10;
-    const Ends ends{drawing.Function(1), drawing.Function(2)};
+    const Ends ends{drawing.Function(1), drawing.Function(2), nullptr};
     std::vector<Ref<FakeObject>> row;
     for (int number = 0; number < rows; ++number) {
         std::vector<Ref<FakeObject>> next;

@@ -61,6 +61,7 @@ class Drawing {
 struct Ends {
     Ref<FakeObject> from;
     Ref<FakeObject> to;
+    Ref<FakeObject> top;  ///< the one rule object behind `from`, where there is one
 };
 
 /// `pairs` times two rule objects side by side, with one before, between and behind them: 2 to the power of

@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <cmath>
 #include <string>
 #include <utility>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "data/modDATA_CONNECTOR.h"
 #include "mapping/ArisTypes.h"
 #include "model/FlowLoops.h"
+#include "model/clsCONTROL_CONNECTOR.h"
 #include "model/clsPROCESS.h"
 #include "model/modCONTROL_CONNECTOR.h"
 #include "run/modGlobals.h"
@@ -129,6 +131,46 @@ void BoundaryConnectors(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
+/// One connector whose paths lead through pairs of rule objects, found and filled.
+void FillConnector(benchmark::State& state, Drawing& drawing, const Ends& ends, bool hasDescription) {
+    SilentRun run;
+    run.Begin();
+    const Ref<clsPROCESS> process = gPool.Create<clsPROCESS>();
+    process->ARIS_Model = drawing.process;
+    process->MinXPos = process->MinYPos = 0;
+    process->LayoutConversionFinished = true;
+    for (auto unused : state) {
+        clsCONTROL_CONNECTOR connector;
+        connector.FROM_ARISObjectDefinition = ends.from;
+        connector.TO_ARISObjectDefinition = ends.to;
+        connector.PROCESS = process;
+        connector.FindARISObjectDefinitionsOnConnectorPaths();
+        connector.SetupProperties();
+        if (connector.DESCRIPTION.empty() == hasDescription || connector.LAYOUT.empty())
+            state.SkipWithError("the connector is not filled as it should be");
+    }
+}
+
+/// N pairs on whose paths there is nothing to print.
+void ConnectorOfSilentPaths(benchmark::State& state) {
+    Drawing drawing;
+    FillConnector(state, drawing, AddDiamonds(drawing, state.range(0)), false);
+    state.counters["paths"] = std::ldexp(1.0, static_cast<int>(state.range(0)));
+    state.SetComplexityN(state.range(0));
+}
+
+/// Pairs with a description in front of them, which every path prints: N is the paths.
+void ConnectorOfPrintedPaths(benchmark::State& state) {
+    Drawing drawing;
+    const Ends ends = AddDiamonds(drawing, state.range(0));
+    const Ref<FakeObject> first = drawing.Function(3);
+    const Ref<FakeObject> described = drawing.RuleObject()->With(AttributeType::description, "text");
+    drawing.FunctionToRule(first, described);
+    drawing.RuleToRule(described, ends.top);
+    FillConnector(state, drawing, {first, ends.to, ends.top}, true);
+    state.SetComplexityN(std::int64_t{1} << state.range(0));
+}
+
 /// One rule object behind a function, and N functions behind it.
 void SplitIntoMany(benchmark::State& state) {
     Drawing drawing;
@@ -215,6 +257,15 @@ BENCHMARK(BoundaryConnectors)
     ->Range(10, 10000)
     ->Unit(benchmark::kMillisecond)
     ->Complexity();
+BENCHMARK(ConnectorOfSilentPaths)
+    ->Arg(1)
+    ->Arg(10)
+    ->Arg(20)
+    ->Arg(30)
+    ->Arg(45)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity();
+BENCHMARK(ConnectorOfPrintedPaths)->DenseRange(2, 14, 3)->Unit(benchmark::kMicrosecond)->Complexity();
 BENCHMARK(SplitIntoMany)->RangeMultiplier(4)->Range(8, 512)->Unit(benchmark::kMillisecond)->Complexity();
 BENCHMARK(SharedDataObject)->RangeMultiplier(2)->Range(4, 64)->Unit(benchmark::kMillisecond)->Complexity();
 BENCHMARK(DataObjectOfAllModels)

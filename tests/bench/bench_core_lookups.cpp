@@ -9,7 +9,7 @@
 #include "tests/bench/Shapes.h"
 #include "tests/bench/SilentRun.h"
 
-// What the lookups cost: the objects of a batch of models, and the search along chained rules.
+// What the lookups cost: the objects of a batch of models, and searches and paths along chained rules.
 
 namespace wxbrg::bench {
 
@@ -51,6 +51,12 @@ void TestRelation(benchmark::State& state, const Ends& ends) {
     for (auto unused : state)
         if (!ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule(ends.from, ends.to, controlRule))
             state.SkipWithError("the other end is missing");
+}
+
+void FindPaths(benchmark::State& state, const Ends& ends) {
+    for (auto unused : state)
+        if (Find_Relating_Paths_Using_Mapping_Rule({}, ends.from, ends.to, controlRule)->IsEmpty())
+            state.SkipWithError("the paths are missing");
 }
 
 /// N pairs of rule objects; a search may nest 100 levels deep, which ends the range.
@@ -104,22 +110,6 @@ void TooDeepBehindDiamonds(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
-/// All paths through diamonds: N is the paths, which are the result.
-void Paths(benchmark::State& state) {
-    Drawing drawing;
-    SilentRun run;
-    const Ends ends = AddDiamonds(drawing, state.range(0));
-    const std::int32_t paths = std::int32_t{1} << state.range(0);
-    for (auto unused : state) {
-        state.PauseTiming();
-        run.Begin();
-        state.ResumeTiming();
-        const auto found = Find_Relating_Paths_Using_Mapping_Rule({}, ends.from, ends.to, controlRule);
-        if (found->Count() != paths) state.SkipWithError("paths are missing");
-    }
-    state.SetComplexityN(paths);
-}
-
 BENCHMARK(ObjectsOfBatch)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond)->Complexity();
 BENCHMARK(Diamonds<SearchFrom>)
     ->Name("RelatedSearch_Diamonds")
@@ -159,7 +149,21 @@ BENCHMARK(TooDeepBehindDiamonds)
     ->Arg(45)
     ->Unit(benchmark::kMicrosecond)
     ->Complexity();
-BENCHMARK(Paths)->DenseRange(2, 14, 3)->Unit(benchmark::kMicrosecond)->Complexity();
+BENCHMARK(Diamonds<FindPaths>)
+    ->Name("Paths_Diamonds")
+    ->Arg(1)
+    ->Arg(10)
+    ->Arg(20)
+    ->Arg(30)
+    ->Arg(45)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity();
+BENCHMARK(Grid<FindPaths>)
+    ->Name("Paths_Grid")
+    ->RangeMultiplier(2)
+    ->Range(2, 16)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity();
 
 }  // namespace
 

@@ -97,13 +97,26 @@ TEST_F(LookupCostTest, NoPathIsFollowedIntoDiamondsThatDoNotLeadToTheTarget) {
     const Ends ends = AddDiamonds(drawing_, 30);
     const Ref<FakeObject> other = drawing_.Function(3);
     drawing_.FunctionToFunction(ends.from, other);
-    std::int32_t paths = 0;
+    std::optional<PathCollection> paths;
     const std::uint64_t questions = QuestionsOf([&] {
-        paths = Find_Relating_Paths_Using_Mapping_Rule({}, ends.from, other, controlRule)->Count();
+        paths = Find_Relating_Paths_Using_Mapping_Rule({}, ends.from, other, controlRule);
     });
-    EXPECT_EQ(paths, 1);
+    ASSERT_EQ(std::distance(paths->begin(), paths->end()), 1);
+    EXPECT_FALSE(paths->begin()->tails);
     // One search behind each of the two sides of the first diamond tells that they lead elsewhere.
     EXPECT_LE(questions, 2 * stepsFromObject * (1 + ruleObjects));
+}
+
+TEST_F(LookupCostTest, PathsThroughDiamondsAskForEachWayOnOnce) {
+    constexpr std::uint64_t ruleObjects = 3 * 30 + 1;
+    const Ends ends = AddDiamonds(drawing_, 30);
+    std::optional<PathCollection> paths;
+    // A relation test behind each rule object, which searches what lies behind it.
+    EXPECT_LE(QuestionsOf([&] {
+                  paths = Find_Relating_Paths_Using_Mapping_Rule({}, ends.from, ends.to, controlRule);
+              }),
+              (1 + ruleObjects) * stepsFromObject * (1 + ruleObjects));
+    EXPECT_EQ(paths->FirstObjectsBetween().size(), 2 * 30 + 1);
 }
 
 TEST_F(LookupCostTest, ADepthThatOnlyTheLastWayReachesIsFoundWithoutWalkingTheOtherWaysAgain) {

@@ -16,6 +16,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 class DataConnectorTest : public CoreTest {
   protected:
@@ -199,7 +200,7 @@ TEST_F(DataConnectorTest, TheBendPointIsTheMeanOfTheEndsAndTheDataOnTheFirstPath
     const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
     connector->FindARISObjectDefinitionsOnConnectorPaths();
     connector->SetupProperty_LAYOUT("");
-    EXPECT_EQ(connector->ColPath.Count(), 2);
+    EXPECT_THAT(PathTexts(connector->ColPath), SizeIs(2));
     // Window x is -500, 0, 500: the mean goes -500, -250, 166 - 167. Window y is 0, -200, 0.
     EXPECT_EQ(connector->LAYOUT, "XPOS -1 YPOS -67");
     EXPECT_EQ(connector->SOURCE_LAYOUT + connector->SINK_LAYOUT, "");

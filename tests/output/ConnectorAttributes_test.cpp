@@ -23,7 +23,7 @@ class ConnectorAttributesTest : public CoreTest {
         paths.Add(path);
     }
 
-    Collection<Ref<clsPath>> paths;
+    PathCollection paths;
 };
 
 TEST_F(ConnectorAttributesTest, ALineForEachObjectThatHasTheAttributeOfTheRule) {
