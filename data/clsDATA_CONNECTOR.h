@@ -28,7 +28,7 @@ class clsDATA_CONNECTOR {
     ARISObjDef FROM_ARISObjectDefinition;         ///< the sending function; empty for process input
     ARISObjDef TO_ARISObjectDefinition;           ///< the receiving function; empty for process output
     Ref<clsPROCESS> PROCESS;                      ///< which holds the connector
-    PathCollection ColPath;             ///< between two activities only
+    PathCollection ColPath;                       ///< between two activities only
     Collection<ARISObjDef> ColInputDataObjects;   ///< data that enters the process here, by Guid
     Collection<ARISObjDef> ColOutputDataObjects;  ///< data that leaves the process here, by Guid
     std::string Linking;

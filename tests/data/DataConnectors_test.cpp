@@ -186,6 +186,45 @@ TEST_F(DataConnectorsTest, BeforeTheActivitiesAreCompleteNothingIsHungOnThem) {
     EXPECT_TRUE(Activity(b)->Col_DATA_CONNECTOR_IN.IsEmpty());
 }
 
+TEST_F(DataConnectorsTest, FindingAgainNotesAgainAndAddsNothing) {
+    const Ref<FakeObject> data = Data("d");
+    Writes(a, data);
+    Reads(b, data);
+    Reads(a, Data("in"));
+    Writes(b, Data("out"));
+    Find();
+    const Ref<clsDATA_CONNECTOR> connector = process->Col_DATA_CONNECTOR.Item(1);
+    DATA_CONNECTOR_Find_ARIS_Mapping(*process);
+    EXPECT_THAT(Texts(process->Col_DATA_CONNECTOR), ElementsAre("1: A > B", "2: in > A", "3: B > out"));
+    EXPECT_EQ(process->Col_DATA_CONNECTOR.Item(1), connector);
+    EXPECT_EQ(Activity(a)->Col_DATA_CONNECTOR_OUT.Item(1), connector);
+    EXPECT_THAT(Notes(), ElementsAre("I3080|T22|A|T22|B", "I3080|T22|A|T22|B"));
+}
+
+TEST_F(DataConnectorsTest, DataThatAFunctionOnlyReadsAndWritesItselfStaysInside) {
+    const Ref<FakeObject> own = Data("own");
+    const Ref<FakeObject> in = Data("in");
+    Reads(a, own);
+    Writes(a, own);
+    Reads(a, in);
+    EXPECT_THAT(Find(), ElementsAre("1: A > A", "2: in > A"));
+}
+
+TEST_F(DataConnectorsTest, AnObjectWhoseGuidDiffersInCaseAloneIsNotTheActivity) {
+    const Ref<FakeObject> kept = repository.Object(ObjectType::function, "D", "{twin}");
+    const Ref<FakeObject> twin = repository.Object(ObjectType::function, "E", "{TWIN}");
+    repository.Draw(model, kept);
+    repository.Draw(model, twin);
+    const Ref<FakeObject> data = Data("d");
+    Writes(a, data);
+    Reads(twin, data);
+    EXPECT_THAT(Find(), ElementsAre("1: A > E", "3: A > d"));
+    EXPECT_THAT(Texts(Activity(a)->Col_DATA_CONNECTOR_OUT), ElementsAre("1: A > E", "3: A > d"));
+    EXPECT_TRUE(Activity(kept)->Col_DATA_CONNECTOR_IN.IsEmpty());
+    process->Col_DATA_CONNECTOR.Item(1)->SetupProperty_Mapping(nullptr);
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
 class DataFlowLoopsTest : public DataConnectorsTest {
   protected:
     /// Data from each function to the next.

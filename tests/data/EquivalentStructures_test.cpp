@@ -131,6 +131,36 @@ TEST_F(EquivalentStructuresTest, NoRegisteredStructureIsEqualToAnything) {
     EXPECT_FALSE(DATA_STRUCTURE_FindEquivalentStructure(ObjectsOf({a}), b));
 }
 
+TEST_F(EquivalentStructuresTest, ObjectsWhoseGuidsDifferInCaseAloneAreOneMemberAndNotEqual) {
+    const Ref<FakeObject> lower = repository.Object(ObjectType::ermAttribute, "lower", "{abc}");
+    const Ref<FakeObject> upper = repository.Object(ObjectType::ermAttribute, "upper", "{ABC}");
+    repository.Draw(model, lower);
+    repository.Draw(model, upper);
+    const Ref<clsDATA_STRUCTURE> one = DATA_STRUCTURE_Generate(ObjectsOf({lower}));
+    const Ref<clsDATA_STRUCTURE> other = DATA_STRUCTURE_Generate(ObjectsOf({upper}));
+    EXPECT_NE(one, other);
+    EXPECT_EQ(one->ColDATA_MEMBER.Item(1), other->ColDATA_MEMBER.Item(1));
+    EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({lower})), one);
+    // The other one has the member of the first, which bears another Guid than the object asked for.
+    EXPECT_FALSE(StructureIndex::FindByWalk(ObjectsOf({upper}), nullptr));
+    EXPECT_FALSE(DATA_STRUCTURE_FindEquivalentStructure(ObjectsOf({upper}), nullptr));
+}
+
+TEST_F(EquivalentStructuresTest, AnObjectWhoseGuidDiffersInCaseAloneFromAMappedOneGetsNoStructure) {
+    const Ref<FakeObject> lower = repository.Object(ObjectType::entityType, "Lower", "{abc}");
+    const Ref<FakeObject> upper = repository.Object(ObjectType::entityType, "Upper", "{ABC}");
+    repository.Draw(model, lower);
+    repository.Draw(second, upper);
+    AddMember(lower, a);
+    AddMember(upper, b);
+    DATA_STRUCTURE_Create(ModelsOf({model}));
+    ForgetNotes();
+    DATA_STRUCTURE_Create(ModelsOf({second}));
+    EXPECT_THAT(StructureNames(), ElementsAre("'Lower'"));
+    EXPECT_THAT(Notes(), ElementsAre("I3060|Upper|T17|DATA_STRUCTURE"));
+    EXPECT_EQ(DATA_STRUCTURE_Add_ARIS_Mapping(upper), gColDATA_STRUCTURE.Item(1));
+}
+
 /// A cluster that contains itself, as a member of a cluster.
 class SelfContainingDataTest : public EquivalentStructuresTest {
   protected:
@@ -244,6 +274,10 @@ TEST_F(StructureIndexPropertyTest, AnswersAsAWalkOverAllStructuresDoes) {
         gStructureIndex = gPool.Create<StructureIndex>();
         std::vector<Ref<FakeObject>> members;
         for (int i = 0; i < 3; ++i) members.push_back(Drawn(ObjectType::entityType, "E"));
+        for (const char* guid : {"{e}", "{E}"}) {
+            members.push_back(repository.Object(ObjectType::entityType, guid, guid));
+            repository.Draw(model, members.back());
+        }
         const std::vector<Ref<FakeObject>> entities = MakeEntities(members);
         for (int step = 0; step < 30; ++step) {
             const Ref<FakeObject> entity =

@@ -129,5 +129,21 @@ TEST_F(RolesTest, ARelationRuleThatReachesAnotherTypeEndsTheRun) {
     EXPECT_TRUE(gColPERSON.IsEmpty());
 }
 
+TEST_F(RolesTest, PersonsWhoseGuidsDifferInCaseAloneAreOneUnderTwoNames) {
+    const auto person = [&](const std::string& name, const std::string& guid) {
+        const Ref<FakeObject> made = repository.Object(ObjectType::person, name, guid);
+        repository.Draw(model, made);
+        return made;
+    };
+    Coordinates(person("LOWER", "{p}"));
+    Performs(person("UPPER", "{P}"));
+    const Ref<clsROLE> role = ROLE_Add_ARIS_Mapping(object);
+    EXPECT_EQ(role->COORDINATOR, "'LOWER'");
+    EXPECT_EQ(role->RELATED_PERSON, "'UPPER'");
+    ASSERT_EQ(gColPERSON.Count(), 1);
+    EXPECT_EQ(gColPERSON.Item(1)->PersonName, "'LOWER'");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace wxbrg::test

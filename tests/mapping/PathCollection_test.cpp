@@ -126,6 +126,23 @@ TEST_F(PathCollectionTest, AnObjectIsOnSomeOrOnAllPaths) {
     EXPECT_FALSE(paths.SomePassThrough(Event("elsewhere")->Guid()));
 }
 
+TEST_F(PathCollectionTest, AnObjectIsLookedForWithoutRegardToTheCaseOfItsGuid) {
+    const Ref<FakeObject> joint = repository.Object(ObjectType::event, "joint", "{joint}");
+    const Ref<FakeObject> inner = repository.Object(ObjectType::event, "inner", "{inner}");
+    const Ref<clsPath> tail = CreatePath(joint, Function("end"));
+    tail->ColARISObjectDefinitionsOnPath.Add(inner, inner->Guid());
+    PathCollection head;
+    head.Add(CreatePath(Function("start"), joint));
+    PathCollection tails;
+    tails.Add(tail);
+    const PathCollection paths = ConcatenatePaths(head, tails);
+    for (const char* guid : {"{JOINT}", "{INNER}"}) {
+        EXPECT_TRUE(paths.SomePassThrough(guid)) << guid;
+        EXPECT_TRUE(paths.AllPassThrough(guid)) << guid;
+    }
+    EXPECT_FALSE(head.SomePassThrough("{joint}"));
+}
+
 TEST_F(PathCollectionTest, OfNoPathsAllPassThroughAnything) {
     EXPECT_TRUE(PathCollection().AllPassThrough("{guid}"));
     EXPECT_FALSE(PathCollection().SomePassThrough("{guid}"));

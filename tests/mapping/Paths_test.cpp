@@ -106,6 +106,25 @@ TEST_F(RelatingPathsTest, APathFromAnObjectToItselfHoldsItAtBothEnds) {
     EXPECT_THAT(Paths(start, start), ElementsAre("start > again > start"));
 }
 
+TEST_F(RelatingPathsTest, AChainThatComesToAnObjectTwiceByTwoRulesEndsTheRun) {
+    const Ref<FakeObject> event = Event("event");
+    const Ref<FakeObject> rule = RuleObject("rule");
+    Flow({event, rule, event, end});
+    AddStep(NewRule("FIRST"), ObjectType::event, CxnKind::outgoing, 48, ObjectType::rule, "SECOND");
+    AddStep(NewRule("SECOND"), ObjectType::rule, CxnKind::outgoing, 117, ObjectType::event, "THIRD");
+    const Ref<clsMappingRule> third = NewRule("THIRD");
+    AddStep(third, ObjectType::event, CxnKind::outgoing, 43, ObjectType::function);
+    EXPECT_THAT(Paths(event, end, "FIRST"), ElementsAre("event > rule > event > end"));
+    AddStep(third, ObjectType::event, CxnKind::outgoing, 48, ObjectType::rule, "FOURTH");
+    AddStep(NewRule("FOURTH"), ObjectType::rule, CxnKind::outgoing, 43, ObjectType::function);
+    Flow({rule, end});
+    EXPECT_EQ(EndOf([&] {
+                  Paths(event, end, "FIRST");
+              }),
+              FailureKind::duplicateKey);
+    EXPECT_THAT(Boxes(), ElementsAre("C457 in modPath.ConcatenatePaths: duplicate key"));
+}
+
 TEST_F(RelatingPathsTest, ACircleThatTheRelationTestMeetsEndsTheRun) {
     const Ref<FakeObject> circle = RuleObject("circle");
     Flow({start, RuleObject("rule"), circle, circle, end});
@@ -279,6 +298,19 @@ TEST_F(ConcatenatePathsTest, AWalkThatPassesThroughAnObjectTwiceEndsTheRun) {
               }),
               FailureKind::duplicateKey);
     EXPECT_THAT(Boxes(), ElementsAre("C457 in modPath.ConcatenatePaths: duplicate key"));
+}
+
+TEST_F(ConcatenatePathsTest, AWalkThroughObjectsWhoseGuidsDifferInCaseAloneEndsTheRun) {
+    const Ref<FakeObject> lower = repository.Object(ObjectType::function, "lower", "{abc}");
+    const Ref<FakeObject> upper = repository.Object(ObjectType::function, "upper", "{ABC}");
+    const Paths over = ConcatenatePaths(PathsOf({CreatePath(b, upper)}), PathsOf({CreatePath(upper, c)}));
+    EXPECT_EQ(EndOf([&] {
+                  ConcatenatePaths(
+                      ConcatenatePaths(PathsOf({CreatePath(a, lower)}), PathsOf({CreatePath(lower, b)})),
+                      over);
+              }),
+              FailureKind::duplicateKey);
+    EXPECT_TRUE(ConcatenatePaths(PathsOf({CreatePath(a, lower)}), PathsOf({CreatePath(upper, c)})).IsEmpty());
 }
 
 TEST_F(ConcatenatePathsTest, AWalkMayPassThroughItsOwnEnds) {

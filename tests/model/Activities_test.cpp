@@ -205,5 +205,52 @@ TEST_F(ActivitiesTest, TheFirstPhaseRunsOnceAndTheSecondOnlyBehindIt) {
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
+TEST_F(ActivitiesTest, TheFirstPhaseIsNameThenContainersThenTextsThenProgram) {
+    const Ref<FakeObject> object = Function("A.B")->With(9, "what\t")->With(8, "how\t");
+    repository.Connect(Drawn(ObjectType::applicationSystem, "Ledger"), 221, object);
+    Writes(object, Drawn(ObjectType::ermAttribute, "out"));
+    Reads(object, Drawn(ObjectType::ermAttribute, "in"));
+    ActivityOf(object);
+    EXPECT_THAT(Notes(), ElementsAre("I3060|A.B|T22|PROGRAM_ACTIVITY", "I3100|A.B|A_B", "I3100|A.B|A_B",
+                                     "I3060|in|T19|DATA_MEMBER", "I3090|DATA_STRUCTURE|'DATA_STRUCTURE_0'",
+                                     "I3060|out|T19|DATA_MEMBER", "I3090|DATA_STRUCTURE|'DATA_STRUCTURE_1'",
+                                     "I3100|what\t|what", "I3100|how\t|how", "I3090|PROGRAM|'Ledger'",
+                                     "I3060|Ledger|T6|PROGRAM", "I3090|PROGRAM_ACTIVITY|'A_B'"));
+}
+
+TEST_F(ActivitiesTest, OtherSettingsAreReadBehindTheNote) {
+    gOptUseOtherSettings = true;
+    gColMappingRule.Remove("ACTIVITY_OTHER_SETTINGS");
+    Function("f");
+    EXPECT_EQ(EndOf([&] {
+                  ProcessWithActivities();
+              }),
+              2100);
+    EXPECT_THAT(Notes(), ElementsAre("I3060|f|T22|PROGRAM_ACTIVITY", "I3090|PROGRAM_ACTIVITY|'f'"));
+}
+
+TEST_F(ActivitiesTest, TheRuleOfProcessesIsAskedForOnlyWhereModelsAreAssigned) {
+    gColMappingRule.Remove("PROCESS");
+    const Ref<FakeObject> object = Function("f");
+    EXPECT_FALSE(ActivityOf(object)->Is_PROCESS_ACTIVITY());
+    object->Assign(Model("Chart", otherModelType));
+    gColPROCESS = {};
+    EXPECT_EQ(EndOf([&] {
+                  ActivityOf(object);
+              }),
+              2100);
+    EXPECT_THAT(Boxes(), ElementsAre("C2100 in modPROCESS.Find_ARIS_Model_In_ModelList: PROCESS"));
+}
+
+TEST_F(ActivitiesTest, OneObjectThatIsNoDataLeavesTheContainerEmpty) {
+    AddStep(NewRule("FUNCTION_SENDS_DATA"), ObjectType::function, CxnKind::outgoing, 50, ObjectType::person);
+    const Ref<FakeObject> object = Function("f");
+    repository.Connect(object, 50, Drawn(ObjectType::person, "Jo"));
+    const Ref<clsACTIVITY> activity = ActivityOf(object);
+    EXPECT_FALSE(activity->OutputContainer);
+    EXPECT_EQ(activity->InputContainer->ObjectName, "'Default Data Structure'");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace wxbrg::test

@@ -133,6 +133,12 @@ TEST_F(StartConditionTest, WithTheOptionAnEmptyConditionFallsBack) {
     EXPECT_EQ(gColPROCESS.Item(1)->Col_ACTIVITY.Item(first->Guid())->StartCondition, anyConnector);
 }
 
+TEST_F(StartConditionTest, ATypedConditionOfBlanksIsATypedOne) {
+    gOptStartConditions = true;
+    target->Set(985, "  ");
+    EXPECT_EQ(StartCondition(), "  ");
+}
+
 class ExitConditionTest : public CoreTest {
   protected:
     /// An event that compares a data object with 1.
@@ -176,6 +182,13 @@ TEST_F(ExitConditionTest, WithTheOptionAnEmptyConditionFallsBackToTheLoop) {
     gOptExitConditions = true;
     Flow({object, Comparing("x"), object});
     EXPECT_EQ(Finished()->ExitCondition, "NOT ( x = 1 )");
+}
+
+TEST_F(ExitConditionTest, ATypedConditionOfBlanksIsATypedOne) {
+    gOptExitConditions = true;
+    Flow({object, Comparing("x"), object});
+    object->Set(986, " ");
+    EXPECT_EQ(Finished()->ExitCondition, " ");
 }
 
 TEST_F(ExitConditionTest, ModesAreTakenAsReadWithOtherSettings) {

@@ -103,6 +103,28 @@ TEST_F(ActivityProgramsTest, AProgramOfAnUnselectedModelIsMadeOnTheSpot) {
     EXPECT_TRUE(gColPROGRAM.Item(1)->SetupFinished);
 }
 
+TEST_F(ActivityProgramsTest, AProgramMadeOnTheSpotHasItsContainersAndNotes) {
+    const Ref<FakeObject> program = DrawnElsewhere(ObjectType::itFunctionType, "Elsewhere");
+    repository.Connect(program, 147, object);
+    repository.Connect(program, 60, DrawnElsewhere(ObjectType::ermAttribute, "d"));
+    Finished();
+    const Ref<clsPROGRAM> made = gColPROGRAM.Item(program->Guid());
+    EXPECT_EQ(made->InputContainer, gColDATA_STRUCTURE.Item(1));
+    EXPECT_EQ(made->OutputContainer, made->InputContainer);
+    EXPECT_THAT(Notes(3060), ElementsAre("I3060|f|T22|PROGRAM_ACTIVITY", "I3060|d|T19|DATA_MEMBER",
+                                         "I3060|Elsewhere|T105|PROGRAM"));
+    EXPECT_THAT(Notes(3090),
+                ElementsAre("I3090|DATA_STRUCTURE|'DATA_STRUCTURE_0'", "I3090|PROGRAM|'Elsewhere'",
+                            "I3090|PROGRAM_ACTIVITY|'f'", "I3090|PROCESS|'Orders'"));
+}
+
+TEST_F(ActivityProgramsTest, ANameOfBlanksIsANameThatIsPrintedEmpty) {
+    AddProgram("  ");
+    EXPECT_EQ(Finished()->PROGRAM, "''");
+    EXPECT_EQ(gColPROGRAM.Count(), 1);
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
 class ActivityStaffTest : public ActivityProgramsTest {
   protected:
     Ref<FakeObject> AddPerson(const std::string& name, std::int32_t connection = 65) {
@@ -200,6 +222,17 @@ TEST_F(ActivityStaffTest, RolesAndOrganizationsAreNamedByTheirRules) {
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->MEMBER_OF_ROLE, "'role'");
     EXPECT_EQ(activity->ORGANIZATION, "'organization'");
+}
+
+TEST_F(ActivityStaffTest, TheSecondPhaseIsSupportToolsThenRolesThenTheOrganization) {
+    AddOrganization("O. x");
+    AddRole("R. x");
+    AddProgram("one");
+    AddProgram("two. x");
+    Finished();
+    // A neighbour is named by the activity, then by itself.
+    EXPECT_THAT(Notes(3100), ElementsAre("I3100|two. x|two_ x", "I3100|R. x|R_ x", "I3100|R. x|R_ x",
+                                         "I3100|O. x|O_ x", "I3100|O. x|O_ x"));
 }
 
 }  // namespace

@@ -118,6 +118,38 @@ TEST_F(ControlConnectorTest, DataOperatorOrValueThatIsMissingGivesNoCondition) {
     EXPECT_EQ(ConditionOf(Comparing("  ", "1", {"x"})), "x    1");
 }
 
+TEST_F(ControlConnectorTest, WithoutDataAnEventIsNotAskedForItsOperator) {
+    EXPECT_EQ(ConditionOf(Comparing("!=", "1", {})), "");
+    EXPECT_THAT(Notes(), IsEmpty());
+}
+
+TEST_F(ControlConnectorTest, AComparisonThatLacksItsValueNamesNoData) {
+    EXPECT_EQ(ConditionOf(Comparing("!=", "", {"x.y", "z"})), "");
+    EXPECT_THAT(Notes(), ElementsAre("I3100|!=|<>"));
+}
+
+TEST_F(ControlConnectorTest, WhatAComparisonNotesComesOncePerPath) {
+    const Ref<FakeObject> full = Comparing("=", "1", {"x", "y"});
+    const Ref<FakeObject> bare = Comparing("!=", "", {"z"});
+    const Ref<FakeObject> meet = RuleObject("meet");
+    Flow({check, full, meet, bare, pay});
+    Flow({check, meet});
+    Flow({bare, RuleObject("around"), pay});
+    EXPECT_EQ(Finished()->Condition, "x = 1 OR x = 1 OR x = 1 OR x = 1");
+    EXPECT_THAT(Notes(), ElementsAre("I3070|T22|Check|T22|Pay", "E3120|event", "I3100|!=|<>", "E3120|event",
+                                     "I3100|!=|<>", "I3100|!=|<>", "I3100|!=|<>",
+                                     "I3090|CONTROL CONNECTOR|FROM 'Check' TO 'Pay'"));
+}
+
+TEST_F(ControlConnectorTest, PathsThatMeetRepeatTheLastConditionPathByPath) {
+    const Ref<FakeObject> meet = RuleObject("meet");
+    Flow({check, Comparing("=", "1", {"x"}), meet});
+    Flow({check, RuleObject("silent"), meet});
+    Flow({meet, Event("plain"), pay});
+    Flow({meet, RuleObject("round"), pay});
+    EXPECT_EQ(Finished()->Condition, "x = 1 OR x = 1 OR x = 1 OR x = 1");
+}
+
 TEST_F(ControlConnectorTest, TheFirstOfSeveralDataObjectsIsCompared) {
     EXPECT_EQ(ConditionOf(Comparing("=", "1", {"x", "y", "z"})), "x = 1");
     EXPECT_THAT(Notes(), ElementsAre("E3120|event"));
@@ -152,9 +184,10 @@ TEST_F(ControlConnectorTest, WithTheOptionATypedConditionStandsForTheComparison)
     event->Set(985, "typed 'as' it.is");
     Flow({check, event, pay});
     EXPECT_EQ(Finished()->Condition, "x = 1");
+    repository.Connect(Drawn(ObjectType::ermAttribute, "y"), 75, event);
     gOptTransitionConditions = true;
-    ForgetNotes();
     EXPECT_EQ(Finished()->Condition, "typed 'as' it.is");
+    EXPECT_THAT(Notes(3120), IsEmpty());
 }
 
 TEST_F(ControlConnectorTest, WithTheOptionAnEventWithoutATypedConditionIsCompared) {

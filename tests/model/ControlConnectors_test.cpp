@@ -128,6 +128,18 @@ TEST_F(ControlConnectorsTest, ACircleOfEventsAndRulesAloneEndsTheRun) {
               2230);
 }
 
+TEST_F(ControlConnectorsTest, AnObjectWhoseGuidDiffersInCaseAloneIsNotTheActivity) {
+    const Ref<FakeObject> kept = repository.Object(ObjectType::function, "D", "{twin}");
+    const Ref<FakeObject> twin = repository.Object(ObjectType::function, "E", "{TWIN}");
+    repository.Draw(model, kept);
+    repository.Draw(model, twin);
+    Flow({a, twin});
+    Flow({twin, b});
+    EXPECT_THAT(Find(), ElementsAre("A > E"));
+    EXPECT_THAT(Texts(Activity(a)->Col_CONTROL_CONNECTOR_OUT), ElementsAre("A > E"));
+    EXPECT_TRUE(Activity(kept)->Col_CONTROL_CONNECTOR_IN.IsEmpty());
+}
+
 class ControlFlowLoopsTest : public ControlConnectorsTest {};
 
 TEST_F(ControlFlowLoopsTest, AChainIsNoLoop) {

@@ -214,6 +214,21 @@ TEST_F(CenterTest, AnObjectBeyond16BitsEndsTheRun) {
     EXPECT_EQ(Boxes().back(), "C6 in modPoint.CalculateGraphicalCenterOfARISObjects: overflow");
 }
 
+TEST_F(CenterTest, ObjectsAreCountedIn16Bits) {
+    constexpr int most = std::numeric_limits<std::int16_t>::max() - 1;
+    const Ref<FakeObject> object = Drawn(ObjectType::event, "e");
+    Collection<ARISObjDef> objects;
+    for (int i = 0; i < most; ++i) objects.Add(object);
+    EXPECT_EQ(Center(objects), "0,0");
+    objects.Add(DrawnElsewhere(ObjectType::event, "not counted"));
+    EXPECT_EQ(Center(objects), "0,0");
+    objects.Add(object);
+    EXPECT_EQ(EndOf([&] {
+                  Center(objects);
+              }),
+              FailureKind::overflow);
+}
+
 TEST_F(CenterTest, ObjectsShrinkWithTheirProcess) {
     gColPROCESS = {};
     Function("far", 120000, 0);

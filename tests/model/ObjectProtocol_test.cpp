@@ -99,5 +99,31 @@ TEST_F(ObjectProtocolTest, AnObjectIsRegisteredBeforeItIsFilled) {
     EXPECT_THAT(Notes(), ElementsAre("I3060|f|T22|THING"));
 }
 
+TEST_F(ObjectProtocolTest, EarlyEndsRestoreTheNameOfTheCaller) {
+    struct Thing {
+        ARISObjDef ARISObjectDefinition;
+        void SetupProperties() {}
+    };
+    const Ref<FakeObject> object = Function("f");
+    Collection<Ref<Thing>> registry;
+    registry.Add(gPool.Create<Thing>(), object->Guid());
+    std::string property;
+    bool finished = true;
+    SetupOnce("modTest.Setup", finished, "KIND", property, [] {
+        Unread();
+    });
+    SetupText("modTest.Text", property, false, NameKind::description, Unread);
+    SetupSettings("modTest.Settings", property, Unread);
+    SetupNeighbour({"modTest.Neighbour", "ACTIVITY_PERSON", NameOfPerson, {}, {}}, object, property,
+                   [](const ARISObjDef&) {
+                       Unread();
+                   });
+    EXPECT_EQ(AddARISMapping({"modTest.Add", "ACTIVITY", "THING", "THING"}, object, registry),
+              registry.Item(1));
+    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(property, "");
+    EXPECT_THAT(Notes(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace wxbrg::test

@@ -198,6 +198,33 @@ TEST_F(ProcessesTest, SourcesAndSinksAreNumberedFromOne) {
     EXPECT_EQ(clsPROCESS().GeneratedDataSourceName(), "SOURCE 1");
 }
 
+TEST_F(ProcessesTest, AProcessIsFilledWholeBeforeTheNextBegins) {
+    group = repository.Group("No. 1");
+    model = Model("Orders: all");
+    model->Set(8, "how\t");
+    model->Set(9, "what\t");
+    const Ref<FakeModel> second = repository.Model(processType, "Second", repository.Group(""));
+    Function("f");
+    repository.Draw(second, repository.Object(ObjectType::function, "g"));
+    PROCESS_Create(ModelsOf({model, second}));
+    EXPECT_THAT(Notes(), ElementsAre("I3050|Orders: all", "I3050|Second", "I3100|Orders: all|Orders_ all",
+                                     "I3100|what\t|what", "I3100|how\t|how", "I3100|No. 1|No_ 1",
+                                     "I3060|f|T22|PROGRAM_ACTIVITY", "I3090|PROGRAM_ACTIVITY|'f'",
+                                     "I3090|PROCESS|'Orders_ all'", "I3060|g|T22|PROGRAM_ACTIVITY",
+                                     "I3090|PROGRAM_ACTIVITY|'g'", "I3090|PROCESS|'Second'"));
+}
+
+TEST_F(ProcessesTest, OtherSettingsAreReadInFrontOfTheActivities) {
+    gOptUseOtherSettings = true;
+    gColMappingRule.Remove("PROCESS_OTHER_SETTINGS");
+    Function("f");
+    EXPECT_EQ(EndOf([&] {
+                  FinishedProcess();
+              }),
+              2100);
+    EXPECT_THAT(Notes(), IsEmpty());
+}
+
 class NewModelsTest : public ProcessesTest {
   protected:
     Ref<FakeObject> Refined(const std::string& name, Ref<FakeModel> by) {
@@ -223,6 +250,15 @@ TEST_F(NewModelsTest, AModelOfTheSameBatchIsNotAskedFor) {
     Refined("a", refined);
     Refined("itself", model);
     EXPECT_TRUE(PROCESS_Create(ModelsOf({model, refined})).IsEmpty());
+}
+
+TEST_F(NewModelsTest, AModelWhoseGuidDiffersFromABuiltOneInCaseAloneIsNotAskedFor) {
+    FakeModel lower("{m}", "Lower", processType, group);
+    FakeModel upper("{M}", "Upper", processType, group);
+    const Ref<FakeObject> function = Refined("a", &upper);
+    EXPECT_TRUE(PROCESS_Create(ModelsOf({model, &lower})).IsEmpty());
+    EXPECT_EQ(gColPROCESS.Item(1)->Col_ACTIVITY.Item(function->Guid())->PROCESS, "'Upper'");
+    gColPROCESS = {};
 }
 
 }  // namespace

@@ -135,6 +135,24 @@ TEST_F(DefinitionsTest, AnUnnamedObjectIsABareKeyword) {
     EXPECT_EQ(Written(), "\nROLE \nEND \n");
 }
 
+TEST_F(DefinitionsTest, EverySortOfUnnamedObjectIsABareKeyword) {
+    clsDATA_STRUCTURE structure;
+    structure.ObjectName = "";
+    gWPXWriter->WriteDataStructure(structure);
+    gWPXWriter->WriteProcessCategory(clsPROCESS_CATEGORY());
+    gWPXWriter->WriteProgram(clsPROGRAM());
+    gWPXWriter->WritePerson(*Person("", "'JO'"), false);
+    gWPXWriter->WritePerson(*Person("", "'JO'"), true);
+    gWPXWriter->WriteOrganization(clsORGANIZATION(), false);
+    EXPECT_EQ(Written(),
+              "\nSTRUCTURE \nEND \n"
+              "\nPROCESS_CATEGORY \nEND \n"
+              "\nPROGRAM  ('Default Data Structure', 'Default Data Structure')\nEND \n"
+              "\nPERSON \nEND \n"
+              "\nUPDATE PERSON \n\tSUBSTITUTE 'JO'\nEND \n"
+              "\nORGANIZATION \n\tMANAGER 'ADMIN'\nEND \n");
+}
+
 TEST_F(DefinitionsTest, APerson) {
     clsPERSON person;
     person.PersonName = "'JO'";

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "data/clsDATA_CONNECTOR.h"
+#include "data/clsDATA_STRUCTURE.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsCONTROL_CONNECTOR.h"
 #include "model/clsPROCESS.h"
@@ -71,6 +72,66 @@ TEST_F(WrittenProcessesTest, AProcessWithoutAContainerEndsTheRun) {
               FailureKind::objectNotSet);
     EXPECT_THAT(Boxes(), ElementsAre("C91 in clsWPXWriter.WriteProcess: object not set"));
     EXPECT_EQ(Written(), "");
+}
+
+TEST_F(WrittenProcessesTest, AnActivityWithoutAContainerEndsTheRun) {
+    for (Ref<clsDATA_STRUCTURE> clsACTIVITY::*container :
+         {&clsACTIVITY::InputContainer, &clsACTIVITY::OutputContainer}) {
+        clsACTIVITY bare;
+        bare.*container = nullptr;
+        EXPECT_EQ(EndOf([&] {
+                      gWPXWriter->WriteActivity(bare);
+                  }),
+                  FailureKind::objectNotSet);
+        EXPECT_EQ(Boxes().back(), "C91 in clsWPXWriter.WriteActivity: object not set");
+    }
+    EXPECT_EQ(Written(), "");
+}
+
+TEST_F(WrittenProcessesTest, UnnamedOnesAreBareKeywords) {
+    clsPROCESS process;
+    activity.ActivityName = "";
+    process.Col_ACTIVITY.Add(&activity);
+    EXPECT_EQ(gWPXWriter->WriteProcess(process), 1);
+    EXPECT_EQ(Written(), std::string("\nPROCESS ") + containers + "\n\tPROGRAM_ACTIVITY " + containers +
+                             "\t\tSTART MANUAL WHEN AT_LEAST_ONE CONNECTOR TRUE\n"
+                             "\tEND \n"
+                             "\nEND \n");
+}
+
+TEST_F(WrittenProcessesTest, ActivitiesComeFirstThenControlThenDataConnectors) {
+    clsPROCESS process;
+    process.ProcessName = "'P'";
+    clsACTIVITY other;
+    other.ActivityName = "'Again'";
+    clsCONTROL_CONNECTOR second;
+    second.FROM_ARISObjectDefinition = connector.TO_ARISObjectDefinition;
+    second.TO_ARISObjectDefinition = connector.FROM_ARISObjectDefinition;
+    clsDATA_CONNECTOR data[2];
+    process.Col_DATA_CONNECTOR.Add(&data[0]);
+    process.Col_CONTROL_CONNECTOR.Add(&connector);
+    process.Col_ACTIVITY.Add(&activity);
+    process.Col_DATA_CONNECTOR.Add(&data[1]);
+    process.Col_CONTROL_CONNECTOR.Add(&second);
+    process.Col_ACTIVITY.Add(&other);
+    EXPECT_EQ(gWPXWriter->WriteProcess(process), 6);
+    const std::string start = "\t\tSTART MANUAL WHEN AT_LEAST_ONE CONNECTOR TRUE\n";
+    EXPECT_EQ(Written(), std::string("\nPROCESS 'P'") + containers + "\n\tPROGRAM_ACTIVITY 'Check'" +
+                             containers + start + "\tEND 'Check'\n" + "\n\tPROGRAM_ACTIVITY 'Again'" +
+                             containers + start + "\tEND 'Again'\n" +
+                             "\n\tCONTROL\n\n\tCONTROL\n\n\tDATA\n\n\tDATA\n\nEND 'P'\n");
+}
+
+TEST_F(WrittenProcessesTest, AnEmptyLayoutOrMappingOfACollectionIsALineOfItsOwn) {
+    clsPROCESS process;
+    process.Col_SOURCE.Add("");
+    process.Col_SINK.Add("");
+    clsDATA_CONNECTOR data;
+    data.ColMapping.Add("");
+    process.Col_DATA_CONNECTOR.Add(&data);
+    gWPXWriter->WriteProcess(process);
+    EXPECT_EQ(Written(),
+              std::string("\nPROCESS ") + containers + "\t\n\t\n" + "\n\tDATA\n\t\t\n" + "\nEND \n");
 }
 
 TEST_F(WrittenProcessesTest, AProgramActivityBeginsWithItsStartLineOnly) {
