@@ -18,6 +18,7 @@ ARTIFICIAL_LANGUAGE = "TST"
 HIGHEST_NUMBER = 65535  # the string tables of Windows have no room for more
 MOST_BYTES = 4095
 ONE_LINE_NUMBERS = (range(3000, 5000), range(50000, HIGHEST_NUMBER + 1))
+CAPTION_NUMBERS = range(50001, HIGHEST_NUMBER + 1)
 
 LANGUAGE_LINE = re.compile(r"language +([A-Z]{3}) +([0-9]+)$")
 NUMBER_LINE = re.compile(r"([1-9][0-9]*) +(\S.*)$")
@@ -25,6 +26,7 @@ TEXT_LINE = re.compile(r"([A-Z]{3}) +(\S.*)$")
 CONTINUATION_LINE = re.compile(r" +(\S.*)$")
 PLACEHOLDER = re.compile(r"%([1-4])\$s")
 PLACEHOLDER_SLIP = re.compile(r"%(?![1-4]\$s)(?:[0-9$]+\w*|[sd]\b)")
+ACCESS_KEY = re.compile(r"&(.?)")
 ENDS_WITH_BREAK = re.compile(r"(?<!\\)(\\\\)*\\n$")
 ESCAPES = {"\\n": "\r\n", "\\\\": "\\"}
 
@@ -47,6 +49,10 @@ class Text:
 
     def placeholders(self):
         return set(PLACEHOLDER.findall(self.source))
+
+    def access_keys(self):
+        """What stands behind each & that marks an access key; nothing behind one that ends the text."""
+        return [key for key in ACCESS_KEY.findall(self.source) if key != "&"]
 
 
 @dataclass
@@ -158,6 +164,8 @@ class Catalogue:
         for text in texts:
             self.check_placeholders(text, message.arguments)
             self.check_same_placeholders(text, texts[0])
+            if message.number in CAPTION_NUMBERS:
+                self.check_access_key(text, texts[0])
             if self.check_escapes(text):
                 self.check_characters(text)
 
@@ -173,6 +181,16 @@ class Catalogue:
         if here != there:
             as_there = f"not {listed(there)} as in {first.language}"
             self.problems.add(text.line, f"{text} has the placeholders {listed(here)}, {as_there}")
+
+    def check_access_key(self, text, first):
+        keys = text.access_keys()
+        if len(keys) > 1:
+            self.problems.add(text.line, f"{text} marks {len(keys)} access keys")
+        elif keys and not keys[0].isalnum():
+            self.problems.add(text.line, f"{text} has & in front of no letter or digit; && is an ampersand")
+        elif bool(keys) != bool(first.access_keys()):
+            which = "an access key" if keys else "no access key"
+            self.problems.add(text.line, f"{text} marks {which}, unlike {first.language}")
 
     def check_escapes(self, text):
         wrong = [escape for escape in re.findall(r"\\.?", text.source) if escape not in ESCAPES]

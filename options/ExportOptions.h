@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
+#include "options/FormControls.h"
 #include "run/modGlobals.h"
 
 namespace wxbrg {
@@ -16,49 +18,53 @@ inline constexpr std::string_view programKey =
 inline constexpr std::string_view toolIntegrationKey =
     R"(Software\IDS Scheer\Aris\5.0\ToolIntegration\quenby)";
 
-/// What an option is.
-enum class OptionKind {
-    flag,    ///< a check box: stored as the number -1 or 0
-    number,  ///< a text field: stored as a number of 0 or more
-    choice,  ///< a pair of option buttons: stored as the number -1 (the first one) or 0
-};
-
-/// One export option: its stored value, its control in the options form and its global.
+/// One export option: its stored value, its control in the options form and its global. A check box is stored
+/// as the number -1 or 0, a pair of option buttons as -1 where the option's own button is selected and 0
+/// where the other one is, the text field as its number.
 struct ExportOption {
     std::string_view valueName;
-    std::string_view control;  ///< for a choice the button that stands for True
-    OptionKind kind;
-    std::int32_t byDefault;     ///< -1 or 0 for a flag and a choice, the number itself for a number
-    bool GlobalBlock::*flag;    ///< null for a number
+    const FormControl* control;
+    bool GlobalBlock::*flag;    ///< null for the text field's number
     std::int32_t savePosition;  ///< from 1: options are saved in another order than they are loaded
+
+    /// -1 or 0 for a flag, the number itself for a number.
+    constexpr std::int32_t ByDefault() const { return control->byDefault; }
+    constexpr bool IsNumber() const { return control->kind == FormControlKind::textField; }
 };
+
+/// An option by its value name, which the table of controls holds too.
+constexpr ExportOption OptionOf(std::string_view valueName, bool GlobalBlock::*flag,
+                                std::int32_t savePosition) {
+    const std::size_t control = FindControl([valueName](const FormControl& candidate) {
+        return candidate.option == valueName;
+    });
+    return {valueName, &formControls.at(control), flag, savePosition};
+}
 
 /// The options in the order of loading.
 // clang-format off
 inline constexpr std::array exportOptions{
-    ExportOption{"ConvertNames",           "cbConvertARISNames",             OptionKind::flag,   -1, &GlobalBlock::optConvertNames,            1},
-    ExportOption{"RemoveLineBreaks",       "cbRemoveLineBreaks",             OptionKind::flag,   -1, &GlobalBlock::optRemoveLineBreaks,        2},
-    ExportOption{"FirstSuffixNumber",      "efNumSuffix",                    OptionKind::number,  0, nullptr,                                  3},
-    ExportOption{"UseDataConBendPoints",   "cbDrawDataConWithBendPoints",    OptionKind::flag,   -1, &GlobalBlock::optUseDataConBendPoints,    5},
-    ExportOption{"UseCtrlConBendPoints",   "cbDrawControlConWithBendPoints", OptionKind::flag,   -1, &GlobalBlock::optUseCtrlConBendPoints,    4},
-    ExportOption{"UseDescriptionAttr",     "cbWriteDescription",             OptionKind::flag,   -1, &GlobalBlock::optUseDescriptionAttr,      6},
-    ExportOption{"UseDocumentationAttr",   "cbWriteDocumentation",           OptionKind::flag,   -1, &GlobalBlock::optUseDocumentationAttr,    7},
-    ExportOption{"UseOtherSettings",       "cbWriteOtherSettings",           OptionKind::flag,    0, &GlobalBlock::optUseOtherSettings,        8},
-    ExportOption{"DynamicStaffAssignment", "cbDynamicStaffAssignment",       OptionKind::flag,   -1, &GlobalBlock::optDynamicStaffAssignment,  9},
-    ExportOption{"FindDataFlowLoops",      "cbDataFlowLoops",                OptionKind::flag,   -1, &GlobalBlock::optFindDataFlowLoops,      10},
-    ExportOption{"FindControlFlowLoops",   "cbControlFlowLoops",             OptionKind::flag,   -1, &GlobalBlock::optFindControlFlowLoops,   11},
-    ExportOption{"StartConditions",        "cbStartConditions",              OptionKind::flag,    0, &GlobalBlock::optStartConditions,        12},
-    ExportOption{"ExitConditions",         "cbExitConditions",               OptionKind::flag,    0, &GlobalBlock::optExitConditions,         13},
-    ExportOption{"TransitionConditions",   "cbTransitionConditions",         OptionKind::flag,    0, &GlobalBlock::optTransitionConditions,   14},
-    ExportOption{"DataTypeFromAttribute",  "rbARISAttrDataType",             OptionKind::choice, -1, &GlobalBlock::optDataTypeFromAttribute,  15},
+    OptionOf("ConvertNames",           &GlobalBlock::optConvertNames,            1),
+    OptionOf("RemoveLineBreaks",       &GlobalBlock::optRemoveLineBreaks,        2),
+    OptionOf("FirstSuffixNumber",      nullptr,                                  3),
+    OptionOf("UseDataConBendPoints",   &GlobalBlock::optUseDataConBendPoints,    5),
+    OptionOf("UseCtrlConBendPoints",   &GlobalBlock::optUseCtrlConBendPoints,    4),
+    OptionOf("UseDescriptionAttr",     &GlobalBlock::optUseDescriptionAttr,      6),
+    OptionOf("UseDocumentationAttr",   &GlobalBlock::optUseDocumentationAttr,    7),
+    OptionOf("UseOtherSettings",       &GlobalBlock::optUseOtherSettings,        8),
+    OptionOf("DynamicStaffAssignment", &GlobalBlock::optDynamicStaffAssignment,  9),
+    OptionOf("FindDataFlowLoops",      &GlobalBlock::optFindDataFlowLoops,      10),
+    OptionOf("FindControlFlowLoops",   &GlobalBlock::optFindControlFlowLoops,   11),
+    OptionOf("StartConditions",        &GlobalBlock::optStartConditions,        12),
+    OptionOf("ExitConditions",         &GlobalBlock::optExitConditions,         13),
+    OptionOf("TransitionConditions",   &GlobalBlock::optTransitionConditions,   14),
+    OptionOf("DataTypeFromAttribute",  &GlobalBlock::optDataTypeFromAttribute,  15),
 };
 // clang-format on
 
-/// The button that stands for False beside the choice's own.
-inline constexpr std::string_view domainTypeButton = "rbARISDomainType";
-
 /// Stored values that are no options of the form.
 inline constexpr std::string_view languageValue = "Language";
+inline constexpr std::string_view defaultLanguage = "ENU";
 inline constexpr std::string_view repositoryPathValue = "RepositoryPath";
 
 static_assert(std::all_of(exportOptions.begin(), exportOptions.end(), [](const ExportOption& option) {
@@ -67,12 +73,14 @@ static_assert(std::all_of(exportOptions.begin(), exportOptions.end(), [](const E
             return other.*field == option.*field;
         });
     };
-    const bool unique = at(&ExportOption::valueName) == 1 && at(&ExportOption::control) == 1 &&
-                        at(&ExportOption::flag) == 1 && at(&ExportOption::savePosition) == 1;
+    const bool unique = at(&ExportOption::valueName) == 1 && at(&ExportOption::flag) == 1 &&
+                        at(&ExportOption::savePosition) == 1;
     const bool inRange =
         option.savePosition >= 1 && option.savePosition <= static_cast<std::int32_t>(exportOptions.size());
-    const bool typed = (option.kind == OptionKind::number) == (option.flag == nullptr);
-    return unique && inRange && typed;
+    return unique && inRange && option.IsNumber() == (option.flag == nullptr);
 }));
+static_assert(std::count_if(formControls.begin(), formControls.end(), [](const FormControl& control) {
+                  return !control.option.empty();
+              }) == static_cast<std::ptrdiff_t>(exportOptions.size()));
 
 }  // namespace wxbrg

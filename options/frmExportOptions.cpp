@@ -1,9 +1,11 @@
 #include "options/frmExportOptions.h"
 
 #include <algorithm>
-#include <array>
 #include <variant>
 
+#include "options/modHelp.h"
+#include "options/modNLSGeneratedFormStrings.h"
+#include "options/modUtilities_fonts.h"
 #include "options/modUtilities_registry.h"
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
@@ -15,8 +17,15 @@ namespace wxbrg {
 
 namespace {
 
-constexpr std::size_t suffixLength = 4;
-constexpr char backspace = 8;
+constexpr char32_t backspace = 8;
+
+constexpr std::size_t suffixField = FindControl([](const FormControl& control) {
+    return control.kind == FormControlKind::textField;
+});
+constexpr std::size_t applyButton = FindControl([](const FormControl& control) {
+    return control.name == "cmdApply";
+});
+static_assert(suffixField < formControls.size() && applyButton < formControls.size());
 
 std::int32_t Stored(bool flag) {
     return flag ? -1 : 0;
@@ -28,12 +37,6 @@ bool IsTrue(const ProfileValue& stored) {
     return number == nullptr || *number != 0;
 }
 
-const ExportOption& NumberOption() {
-    return *std::find_if(exportOptions.begin(), exportOptions.end(), [](const ExportOption& option) {
-        return option.kind == OptionKind::number;
-    });
-}
-
 /// The options in the order of saving.
 std::array<const ExportOption*, exportOptions.size()> SaveOrder() {
     std::array<const ExportOption*, exportOptions.size()> order{};
@@ -42,44 +45,58 @@ std::array<const ExportOption*, exportOptions.size()> SaveOrder() {
     return order;
 }
 
+/// The place in the table of a control that is no tab, or the table's size.
+std::size_t IndexOf(std::string_view name) {
+    return FindControl([name](const FormControl& control) {
+        return control.name == name;
+    });
+}
+
 }  // namespace
 
 frmExportOptions::frmExportOptions() {
-    for (const ExportOption& option : exportOptions) {
-        Control& control = ControlOf(option);
-        if (option.kind == OptionKind::number)
-            control.text = std::to_string(option.byDefault);
-        else
-            control.checked = option.byDefault != 0;
+    for (std::size_t i = 0; i < formControls.size(); ++i) {
+        controls[i].checked = formControls[i].byDefault != 0;
+        controls[i].caption = formControls[i].designCaption;
     }
+    controls[suffixField].text = std::to_string(formControls[suffixField].byDefault);
 }
 
-frmExportOptions::Control& frmExportOptions::ControlOf(const ExportOption& option) {
-    return controls_[static_cast<std::size_t>(&option - exportOptions.data())];
-}
-const frmExportOptions::Control& frmExportOptions::ControlOf(const ExportOption& option) const {
-    return controls_[static_cast<std::size_t>(&option - exportOptions.data())];
+frmExportOptions::Control& frmExportOptions::StateOf(const FormControl& control) {
+    return controls.at(static_cast<std::size_t>(&control - formControls.data()));
 }
 
 void frmExportOptions::ShowModal() {
     Form_Load();
     gPlatform->optionsFormView.ShowModal(*this);
+    gActiveForm = nullptr;
 }
 
 void frmExportOptions::Form_Load() {
+    closed_ = false;
     LoadOptions();
     SetDirty(false);
+}
+
+void frmExportOptions::Activate() {
+    gActiveForm = this;
+    Set_NLS_Font_Form(*this);
+    SetFormStrings();
+    SetFormHelp();
 }
 
 void frmExportOptions::LoadOptions() {
     for (const ExportOption& option : exportOptions) {
         const ProfileValue stored = GetProfileValue(programKey, option.valueName);
-        Control& control = ControlOf(option);
-        if (option.kind == OptionKind::number) {
+        Control& control = StateOf(*option.control);
+        if (option.IsNumber()) {
             LoadNumber(stored, control);
             continue;
         }
-        if (!std::holds_alternative<std::monostate>(stored)) control.checked = IsTrue(stored);
+        if (!std::holds_alternative<std::monostate>(stored)) {
+            Check(*option.control, IsTrue(stored));
+            SetDirty(true);
+        }
         gBlock.*option.flag = control.checked;
     }
 }
@@ -92,13 +109,13 @@ void frmExportOptions::LoadNumber(const ProfileValue& stored, Control& control) 
     const auto* text = std::get_if<std::string>(&stored);
     const std::int32_t number = text ? ToInt32(*text, DecimalSeparator()) : std::get<std::int32_t>(stored);
     gOptFirstSuffixNumber = std::max(number, 0);
-    SetText(std::to_string(gOptFirstSuffixNumber));
+    Change(std::to_string(gOptFirstSuffixNumber));
 }
 
 void frmExportOptions::SaveOptions() {
     for (const ExportOption* option : SaveOrder()) {
-        const Control& control = ControlOf(*option);
-        if (option->kind == OptionKind::number) {
+        const Control& control = StateOf(*option->control);
+        if (option->IsNumber()) {
             const std::int32_t number = control.text.empty() ? 0 : ToInt32(control.text, DecimalSeparator());
             SetProfileValue(programKey, option->valueName, number, ProfileType::number);
             gOptFirstSuffixNumber = number;
@@ -109,62 +126,68 @@ void frmExportOptions::SaveOptions() {
     }
 }
 
-void frmExportOptions::SetText(const std::string& text) {
-    ControlOf(NumberOption()).text = std::string(Left(text, suffixLength));
-    SetDirty(true);
-}
-
 std::vector<FormControlRow> frmExportOptions::Rows() const {
     std::vector<FormControlRow> rows;
-    for (const ExportOption& option : exportOptions) {
-        const Control& control = ControlOf(option);
-        switch (option.kind) {
-            case OptionKind::flag:
-                rows.push_back({option.control, FormControlKind::checkBox, {}, control.checked, {}});
-                break;
-            case OptionKind::number:
-                rows.push_back({option.control, FormControlKind::textField, {}, false, control.text});
-                break;
-            case OptionKind::choice:
-                rows.push_back({domainTypeButton, FormControlKind::optionButton, {}, !control.checked, {}});
-                rows.push_back({option.control, FormControlKind::optionButton, {}, control.checked, {}});
-                break;
-        }
+    for (std::size_t i = 0; i < formControls.size(); ++i) {
+        const FormControl& control = formControls[i];
+        rows.push_back(
+            {.name = control.name,
+             .kind = control.kind,
+             .page = control.page,
+             .frame = control.frame,
+             .caption = controls[i].caption,
+             .helpNumber = controls[i].HelpContextID,
+             .maximumLength = control.kind == FormControlKind::textField ? suffixLength : std::size_t{0},
+             .enabled = i != applyButton || bDirty,
+             .checked = controls[i].checked,
+             .text = controls[i].text});
     }
     return rows;
 }
 
 bool frmExportOptions::Click(std::string_view control) {
-    for (const ExportOption& option : exportOptions) {
-        bool& checked = ControlOf(option).checked;
-        if (option.kind == OptionKind::flag && option.control == control) {
-            checked = !checked;
-        } else if (option.kind == OptionKind::choice &&
-                   (option.control == control || domainTypeButton == control)) {
-            checked = option.control == control;
-        } else {
-            continue;
-        }
-        SetDirty(true);
-        return true;
+    const std::size_t index = IndexOf(control);
+    if (index == formControls.size()) return false;
+    switch (formControls[index].kind) {
+        case FormControlKind::checkBox:
+            Check(formControls[index], !controls[index].checked);
+            break;
+        case FormControlKind::optionButton:
+            Check(formControls[index], true);
+            break;
+        default:
+            return false;
     }
-    return false;
-}
-
-bool frmExportOptions::Type(char key) {
-    std::string text = ControlOf(NumberOption()).text;
-    if (key == backspace) {
-        if (text.empty()) return true;
-        SetText(std::string(WithoutLast(text, 1)));
-        return true;
-    }
-    if (key < '0' || key > '9') return false;
-    if (CharacterCount(text) < suffixLength) SetText(text + key);
+    SetDirty(true);
     return true;
 }
 
-void frmExportOptions::Paste(std::string_view text) {
-    SetText(std::string(text));
+void frmExportOptions::Check(const FormControl& control, bool checked) {
+    StateOf(control).checked = checked;
+    if (control.kind != FormControlKind::optionButton) return;
+    for (const FormControl& other : formControls)
+        if (&other != &control && other.kind == control.kind && other.frame == control.frame)
+            StateOf(other).checked = !checked;
+}
+
+bool frmExportOptions::KeepsKey(char32_t key) const {
+    return key == backspace || (key >= U'0' && key <= U'9');
+}
+
+bool frmExportOptions::Type(char32_t key) {
+    if (!KeepsKey(key)) return false;
+    const std::string& text = controls[suffixField].text;
+    if (key == backspace) {
+        if (!text.empty()) Change(std::string(WithoutLast(text, 1)));
+    } else if (CharacterCount(text) < suffixLength) {
+        Change(text + static_cast<char>(key));
+    }
+    return true;
+}
+
+void frmExportOptions::Change(std::string_view text) {
+    controls[suffixField].text = std::string(Left(text, suffixLength));
+    SetDirty(true);
 }
 
 void frmExportOptions::Apply() {
@@ -186,6 +209,16 @@ void frmExportOptions::cmdCancel_Click() {
     Procedure("frmExportOptions.cmdCancel_Click", [](Frame& frame) {
         frame.RaiseBare(CancelNumber::optionsForm);
     });
+}
+
+void frmExportOptions::Help() {
+    gPlatform->helpViewer.ShowPage(gHelpFile, HelpContextID);
+}
+
+void frmExportOptions::HelpOn(std::string_view control) {
+    const std::size_t index = IndexOf(control);
+    if (index == formControls.size() || controls[index].HelpContextID == 0) return;
+    gPlatform->helpViewer.ShowPage(gHelpFile, controls[index].HelpContextID);
 }
 
 }  // namespace wxbrg

@@ -1,12 +1,15 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "options/ExportOptions.h"
+#include "options/FormControls.h"
 #include "platform/OptionsFormView.h"
+#include "platform/ProfileStore.h"
 
 namespace wxbrg {
 
@@ -29,33 +32,48 @@ class frmExportOptions : public OptionsFormEvents {
     /// number; what was saved before it stays saved.
     void SaveOptions();
 
+    /// The state of a control or a tab.
+    struct Control {
+        bool checked = false;
+        std::string text;  ///< text fields
+        std::string caption;
+        std::int32_t HelpContextID =
+            0;  ///< its page of the help, as context help and as What's This; 0: none
+    };
+
+    // What each activation sets anew.
+    std::string caption;
+    FormFont font;
+    std::int32_t HelpContextID = 0;
+    /// In the order of `formControls`.
+    std::array<Control, formControls.size()> controls;
+
     // The form as its view sees it.
+    void Activate() override;
+    std::string Caption() const override { return caption; }
+    FormFont Font() const override { return font; }
     std::vector<FormControlRow> Rows() const override;
     bool IsDirty() const override { return bDirty; }
     bool Click(std::string_view control) override;
-    bool Type(char key) override;
-    void Paste(std::string_view text) override;
+    bool KeepsKey(char32_t key) const override;
+    bool Type(char32_t key) override;
+    void Change(std::string_view text) override;
     void Apply() override;
     void Ok() override;
     void Cancel() override;
+    void Help() override;
     void Close() override { closed_ = true; }
+    void HelpOn(std::string_view control) override;
     bool IsClosed() const override { return closed_; }
 
   private:
-    /// The state of an option's control.
-    struct Control {
-        bool checked = false;
-        std::string text;
-    };
-
     void Form_Load();
     void cmdCancel_Click();
-    void SetText(const std::string& text);
-    Control& ControlOf(const ExportOption& option);
-    const Control& ControlOf(const ExportOption& option) const;
+    /// Checks or unchecks a control; of a pair of option buttons the other one becomes the opposite.
+    void Check(const FormControl& control, bool checked);
     void LoadNumber(const ProfileValue& stored, Control& control);
+    Control& StateOf(const FormControl& control);
 
-    std::array<Control, exportOptions.size()> controls_;
     bool closed_ = false;
 };
 

@@ -13,13 +13,10 @@ namespace wxbrg {
 
 namespace {
 
-constexpr std::string_view defaultLanguage = "ENU";
 /// What the buffer for a text holds, its terminating zero included.
 constexpr std::size_t textCapacity = 4096;
 
-/// The tag of the language to load.
-std::string LanguageTag() {
-    const ProfileValue stored = GetProfileValue(programKey, languageValue);
+std::string TagOf(const ProfileValue& stored) {
     std::string tag;
     if (const auto* text = std::get_if<std::string>(&stored)) tag = *text;
     if (const auto* number = std::get_if<std::int32_t>(&stored)) tag = std::to_string(*number);
@@ -28,9 +25,13 @@ std::string LanguageTag() {
 
 }  // namespace
 
+std::string StoredLanguage(const ProfileStore& store) {
+    return TagOf(GetProfileValue(store, programKey, languageValue));
+}
+
 bool LoadLocalizedResources() {
     return Procedure("modUtilities.LoadLocalizedResources", [&](Frame&) {
-        const std::string stem = "wxbrg" + LanguageTag();
+        const std::string stem = "wxbrg" + TagOf(GetProfileValue(programKey, languageValue));
         const std::string fileName = stem + ".dll";
         gResourceLibrary = gPlatform->languageLibraries.Load(fileName);
         const bool loaded = gResourceLibrary != nullptr;

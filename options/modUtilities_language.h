@@ -4,9 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ProfileStore.h"
+
 namespace wxbrg {
 
 // Message texts by number, from the language library beside the program.
+
+/// The tag of the language that is stored, "ENU" where none is.
+std::string StoredLanguage(const ProfileStore& store);
 
 /// Loads the language library that the stored value "Language" names ("ENU" where none is stored), and sets
 /// the help file of the same language. Returns false, after telling the user, when the library is not there.

@@ -75,7 +75,7 @@ struct ProcessTypes {
     std::vector<std::int32_t> types;  ///< model type numbers, in the order of the rule
 };
 
-/// Reads the rules as a run does, from the profile beside the program or the default table, with the boxes
+/// Reads the rules as a run does, from the platform's mapping profile or the default table, with the boxes
 /// that this brings, and tells which models are processes. The global block is made anew.
 ProcessTypes ReadProcessTypes(Platform& platform);
 

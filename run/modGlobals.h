@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -60,6 +61,8 @@ struct GlobalBlock {
 
     // The options, written by the options form when it is loaded or saved; nothing before that.
     Ref<frmExportOptions> optionsForm;
+    Ref<frmExportOptions> activeForm;     ///< the form in front of the user; null while there is none
+    std::optional<FormFont> defaultFont;  ///< the platform's own, from its first use on; never changed
     bool optConvertNames = false;
     bool optRemoveLineBreaks = false;
     bool optUseDocumentationAttr = false;
@@ -125,6 +128,8 @@ inline constinit Ref<clsWPXWriter>& gWPXWriter = gBlock.wpxWriter;
 inline constinit std::int32_t& gLocale = gBlock.locale;
 
 inline constinit Ref<frmExportOptions>& gOptionsForm = gBlock.optionsForm;
+inline constinit Ref<frmExportOptions>& gActiveForm = gBlock.activeForm;
+inline constinit std::optional<FormFont>& gDefaultFont = gBlock.defaultFont;
 inline constinit bool& gOptConvertNames = gBlock.optConvertNames;
 inline constinit bool& gOptRemoveLineBreaks = gBlock.optRemoveLineBreaks;
 inline constinit bool& gOptUseDocumentationAttr = gBlock.optUseDocumentationAttr;

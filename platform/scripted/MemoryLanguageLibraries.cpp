@@ -14,15 +14,8 @@ class MemoryLanguageLibrary : public LanguageLibrary {
 
     std::string LoadString(std::uint32_t number, std::size_t capacity) const override {
         const auto found = texts_.find(number);
-        if (found == texts_.end()) return {};
-        const std::string_view text = found->second;
-        std::size_t end = 0;
-        while (end < text.size()) {
-            const std::size_t next = end + CharacterLength(text.substr(end));
-            if (next >= capacity) break;
-            end = next;
-        }
-        return std::string(text.substr(0, end));
+        if (found == texts_.end() || capacity == 0) return {};
+        return std::string(WithinBytes(found->second, capacity - 1));
     }
 
   private:

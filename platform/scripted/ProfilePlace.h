@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ProfileStore.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -12,7 +13,7 @@ namespace wxbrg {
 /// end.
 struct ProfilePlace {
     ProfilePlace(std::string_view keyPath, std::string_view valueName)
-        : key(UpperCase(keyPath.substr(0, keyPath.find_last_not_of('\\') + 1))), name(UpperCase(valueName)) {}
+        : key(UpperCase(PlainProfileKey(keyPath))), name(UpperCase(valueName)) {}
 
     auto operator<=>(const ProfilePlace&) const = default;
 

@@ -1,8 +1,11 @@
 #include "platform/scripted/ScriptedOptionsFormView.h"
 
+#include "support/Text.h"
+
 namespace wxbrg {
 
 void ScriptedOptionsFormView::ShowModal(OptionsFormEvents& form) {
+    form.Activate();
     while (!form.IsClosed()) Act(script_.TakeForOptions(), form);
 }
 
@@ -21,17 +24,18 @@ void ScriptedOptionsFormView::Act(const ScriptedAnswer& answer, OptionsFormEvent
             form.Cancel();
             return;
         case ScriptedAction::paste:
-            form.Paste(answer.text);
+            form.Change(answer.text);
             return;
         case ScriptedAction::type:
-            for (const char key : answer.text) form.Type(key);
+            for (const char32_t key : ToCharacters(answer.text)) form.Type(key);
             return;
         case ScriptedAction::click:
             if (!form.Click(answer.text))
                 script_.Reject(answer, "the options dialog has no control \"" + answer.text + "\" to click");
             return;
         case ScriptedAction::help:
-            script_.Reject(answer, "the options dialog has no help to show when a script answers it");
+            form.Help();
+            return;
         case ScriptedAction::chooseFile:
         case ScriptedAction::cancelFile:
             break;

@@ -11,7 +11,7 @@ class ScriptedOptionsFormView : public OptionsFormView {
     explicit ScriptedOptionsFormView(AnswerScript& script) : script_(script) {}
 
     /// Throws `ScriptError` when the next answer is none for the options form, and when it clicks on a
-    /// control that there is not, or asks for help, which takes a user to read.
+    /// control that there is not.
     void ShowModal(OptionsFormEvents& form) override;
 
   private:

@@ -34,9 +34,11 @@ MemoryLanguageLibraries::Texts PlainTexts() {
 SilentRun::SilentRun() : SilentRun(memory_, "out.wpx") {}
 
 SilentRun::SilentRun(FileSystem& files, std::string output)
-    : output_(std::move(output)),
-      platform_{profileStore_, languageLibraries_, codePage_,        clock_,    userLocale_, files,
-                messageBox_,   fileDialog_,        optionsFormView_, progress_, "",          "wxbrg"} {
+    : output_(std::move(output)), platform_{profileStore_, languageLibraries_, codePage_,
+                                            clock_,        userLocale_,        files,
+                                            messageBox_,   fileDialog_,        optionsFormView_,
+                                            helpViewer_,   progress_,          "",
+                                            "wxbrg"} {
     languageLibraries_.Put("wxbrgENU.dll", PlainTexts());
 }
 
@@ -66,7 +68,7 @@ void SilentRun::Begin() {
     gLocale = english;
     gDataStructureNamePrefix = "DATA_STRUCTURE_";
     for (const ExportOption& option : exportOptions)
-        if (option.flag != nullptr) gBlock.*option.flag = option.byDefault != 0;
+        if (option.flag != nullptr) gBlock.*option.flag = option.ByDefault() != 0;
     CreateDefaultMappingRules();
     gCurrentProcedure = "modMain.Main";
 }

@@ -10,6 +10,7 @@
 #include "platform/scripted/MemoryFileSystem.h"
 #include "platform/scripted/MemoryLanguageLibraries.h"
 #include "platform/scripted/MemoryProfileStore.h"
+#include "platform/scripted/NoHelp.h"
 #include "platform/scripted/NoProgress.h"
 #include "platform/scripted/PlainUserLocale.h"
 #include "platform/scripted/ScriptedFileDialog.h"
@@ -54,6 +55,7 @@ class SilentRun {
     ScriptedMessageBox messageBox_{script_};
     ScriptedFileDialog fileDialog_{script_};
     ScriptedOptionsFormView optionsFormView_{script_};
+    NoHelp helpViewer_;
     NoProgress progress_;
     Platform platform_;
 };

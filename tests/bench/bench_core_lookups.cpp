@@ -110,25 +110,15 @@ void TooDeepBehindDiamonds(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
+/// As many pairs as a search may nest through.
+void UpToDeepestDiamonds(benchmark::internal::Benchmark* bench) {
+    for (const std::int64_t pairs : {1, 10, 20, 30, 45}) bench->Arg(pairs);
+    bench->Unit(benchmark::kMicrosecond)->Complexity();
+}
+
 BENCHMARK(ObjectsOfBatch)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond)->Complexity();
-BENCHMARK(Diamonds<SearchFrom>)
-    ->Name("RelatedSearch_Diamonds")
-    ->Arg(1)
-    ->Arg(10)
-    ->Arg(20)
-    ->Arg(30)
-    ->Arg(45)
-    ->Unit(benchmark::kMicrosecond)
-    ->Complexity();
-BENCHMARK(Diamonds<TestRelation>)
-    ->Name("RelationTest_Diamonds")
-    ->Arg(1)
-    ->Arg(10)
-    ->Arg(20)
-    ->Arg(30)
-    ->Arg(45)
-    ->Unit(benchmark::kMicrosecond)
-    ->Complexity();
+BENCHMARK(Diamonds<SearchFrom>)->Name("RelatedSearch_Diamonds")->Apply(UpToDeepestDiamonds);
+BENCHMARK(Diamonds<TestRelation>)->Name("RelationTest_Diamonds")->Apply(UpToDeepestDiamonds);
 BENCHMARK(Grid<SearchFrom>)
     ->Name("RelatedSearch_Grid")
     ->RangeMultiplier(2)
@@ -141,23 +131,8 @@ BENCHMARK(Grid<TestRelation>)
     ->Range(2, 64)
     ->Unit(benchmark::kMicrosecond)
     ->Complexity();
-BENCHMARK(TooDeepBehindDiamonds)
-    ->Arg(1)
-    ->Arg(10)
-    ->Arg(20)
-    ->Arg(30)
-    ->Arg(45)
-    ->Unit(benchmark::kMicrosecond)
-    ->Complexity();
-BENCHMARK(Diamonds<FindPaths>)
-    ->Name("Paths_Diamonds")
-    ->Arg(1)
-    ->Arg(10)
-    ->Arg(20)
-    ->Arg(30)
-    ->Arg(45)
-    ->Unit(benchmark::kMicrosecond)
-    ->Complexity();
+BENCHMARK(TooDeepBehindDiamonds)->Apply(UpToDeepestDiamonds);
+BENCHMARK(Diamonds<FindPaths>)->Name("Paths_Diamonds")->Apply(UpToDeepestDiamonds);
 BENCHMARK(Grid<FindPaths>)
     ->Name("Paths_Grid")
     ->RangeMultiplier(2)

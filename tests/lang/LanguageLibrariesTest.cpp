@@ -160,7 +160,7 @@ TEST(LanguageLibraries, HoldEnglishTexts) {
     EXPECT_EQ(library.Text(1020), "\r\nWhat happened:");
     EXPECT_EQ(library.Text(1010), "%1$sThe export needs your attention.\r\nPlace in the program: %2$s");
     EXPECT_EQ(library.Text(4010), "Whole number");
-    EXPECT_EQ(library.Text(50011), "ARIS object 'ERM domain'");
+    EXPECT_EQ(library.Text(50011), "ARIS object '&ERM domain'");
     EXPECT_EQ(library.Text(50029), "OK");
 }
 
@@ -168,10 +168,10 @@ TEST(LanguageLibraries, HoldGermanTextsInUtf8) {
     const Library library("DEU");
     EXPECT_EQ(library.Text(3060), "Objekt \"%1$s\" (%2$s) wird zu %3$s.");
     EXPECT_EQ(library.Text(4000), "Gleitkommazahl");
-    EXPECT_EQ(library.Text(50011), "ARIS-Objekt 'ERM-Dom\xC3\xA4ne'");
+    EXPECT_EQ(library.Text(50011), "ARIS-Objekt '&ERM-Dom\xC3\xA4ne'");
     EXPECT_EQ(library.Text(50013),
               "\xC3\x9C"
-              "bergangsbedingungen");
+              "bergan&gsbedingungen");
     EXPECT_EQ(library.Text(50028), "Abbrechen");
 }
 
@@ -185,10 +185,8 @@ TEST(LanguageLibraries, CanBeLoadedSideBySide) {
     const Library english("ENU");
     const Library german("DEU");
     const Library artificial("TST");
-    EXPECT_EQ(english.Text(50027), "Apply");
-    EXPECT_EQ(german.Text(50027),
-              "\xC3\x9C"
-              "bernehmen");
+    EXPECT_EQ(english.Text(50027), "&Apply");
+    EXPECT_EQ(german.Text(50027), "\xC3\x9C&bernehmen");
     EXPECT_EQ(artificial.Text(50027), "50027|%1$s|%2$s|%3$s|%4$s");
 }
 

@@ -174,6 +174,31 @@ class Rejections(GeneratorTest):
                 self.assert_rejected(LANGUAGES + f"{number}  x\nENU  a\\n b\nDEU  a\n",
                                      f"4: the text of {number} in ENU has a line break, but is to be one line")
 
+    def test_access_keys_of_captions_pass_as_they_stand(self):
+        content = LANGUAGES + "50000  x\nENU  R & D\nDEU  R & D\n50001  x\nENU  &A && b\nDEU  Ä &ö\n"
+        self.assertEqual(self.texts(content, "ENU"), {50000: "R & D", 50001: "&A && b"})
+        self.assertEqual(self.texts(content, "DEU"), {50000: "R & D", 50001: "Ä &ö"})
+
+    def test_ampersands_of_messages_mark_nothing(self):
+        self.assertEqual(self.texts(LANGUAGES + "1  x\nENU  &a &b &\nDEU  a\n", "ENU"), {1: "&a &b &"})
+
+    def test_caption_with_two_access_keys(self):
+        self.assert_rejected(LANGUAGES + "50001  x\nENU  &a &b\nDEU  &a\n",
+                             "4: the text of 50001 in ENU marks 2 access keys")
+
+    def test_access_key_that_is_no_letter_or_digit(self):
+        for text in ("a & b", "a&", "a &-"):
+            with self.subTest(text):
+                self.assert_rejected(LANGUAGES + f"65535  x\nENU  &a\nDEU  {text}\n",
+                                     "5: the text of 65535 in DEU has & in front of no letter or digit; && is an "
+                                     "ampersand")
+
+    def test_access_key_in_one_language_only(self):
+        self.assert_rejected(LANGUAGES + "50001  x\nENU  &a\nDEU  a\n",
+                             "5: the text of 50001 in DEU marks no access key, unlike ENU")
+        self.assert_rejected(LANGUAGES + "50001  x\nENU  a && b\nDEU  &a\n",
+                             "5: the text of 50001 in DEU marks an access key, unlike ENU")
+
     def test_malformed_lines(self):
         words = "malformed line, neither language, number, text nor continuation: "
         for line in ("ENU", "2020", "0020  x", "-1  x", "Enu  a", "ENUS  a", "\tENU  a", "language ENU", "language"):

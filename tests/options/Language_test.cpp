@@ -75,6 +75,15 @@ TEST_F(LoadLanguageTest, AMissingLibraryIsToldWithItsNameAndThereAreNoTexts) {
     EXPECT_EQ(gRunReport.boxes.critical, 1);
 }
 
+TEST_F(LoadLanguageTest, TheStoredTagIsKnownWithoutLoadingIt) {
+    EXPECT_EQ(StoredLanguage(profileStore_), "ENU");
+    Store(ProfileScope::machine, std::string("DEU"));
+    EXPECT_EQ(StoredLanguage(profileStore_), "DEU");
+    Store(ProfileScope::user, std::string("FRA"));
+    EXPECT_EQ(StoredLanguage(profileStore_), "FRA");
+    EXPECT_THAT(languageLibraries_.asked, IsEmpty());
+}
+
 class TextTest : public RunFixture {
   protected:
     /// From now on this is the text of number 1.

@@ -135,7 +135,7 @@ class SuffixOptionTest : public OptionsFixture {
     /// Pastes a text into the field and applies it.
     std::optional<RunEnd> ApplyPasted(std::string_view text) {
         return Show([&] {
-            form_.Paste(text);
+            form_.Change(text);
             form_.Apply();
         });
     }
@@ -271,7 +271,7 @@ TEST_F(StoredOptionsTest, TheGlobalsFollowTheControlsAtASaveAndNotBefore) {
     Show([&] {
         form_.Click("cbConvertARISNames");
         form_.Click("rbARISDomainType");
-        form_.Paste("31");
+        form_.Change("31");
         EXPECT_TRUE(gOptConvertNames);
         EXPECT_TRUE(gOptDataTypeFromAttribute);
         EXPECT_EQ(gOptFirstSuffixNumber, 0);
@@ -298,7 +298,7 @@ TEST_F(StoredOptionsTest, WhatIsSavedIsLoadedAgain) {
     Show([&] {
         for (const FlagOption& option : flagOptions)
             form_.Click(option.control == "rbARISAttrDataType" ? "rbARISDomainType" : option.control);
-        form_.Paste("123");
+        form_.Change("123");
         form_.Apply();
     });
     RenewGlobals();

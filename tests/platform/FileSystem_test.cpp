@@ -5,7 +5,7 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/scripted/MemoryFileSystem.h"
 #include "support/Failure.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg {
 namespace {

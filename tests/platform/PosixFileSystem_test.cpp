@@ -7,7 +7,7 @@
 
 #include <csignal>
 
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 #include "tests/support/FailureMatcher.h"
 
 namespace wxbrg {

@@ -6,8 +6,8 @@
 
 #include <thread>
 
+#include "tests/TemporaryFolder.h"
 #include "tests/platform/EnvironmentVariable.h"
-#include "tests/platform/TemporaryFolder.h"
 
 namespace wxbrg {
 namespace {

@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <memory>
 
+#include "tests/TemporaryFolder.h"
 #include "tests/platform/EnvironmentVariable.h"
-#include "tests/platform/TemporaryFolder.h"
 
 /// The system's newlocale loses memory when LOCPATH is set, as it is in these tests alone.
 extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)

@@ -7,7 +7,7 @@
 #include "platform/posix/PosixProfileStore.h"
 #include "platform/scripted/MemoryProfileStore.h"
 #include "platform/scripted/OverlayProfileStore.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg {
 namespace {

@@ -6,7 +6,7 @@
 #include <atomic>
 #include <thread>
 
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg {
 namespace {

@@ -11,8 +11,8 @@
 #include "aris/xml/XmlRepository.h"
 #include "run/clsARIS_Interface.h"
 #include "run/modGlobals.h"
+#include "tests/TemporaryFolder.h"
 #include "tests/cli/SmallExport.h"
-#include "tests/platform/TemporaryFolder.h"
 #include "tests/run/RunFixture.h"
 
 namespace wxbrg {

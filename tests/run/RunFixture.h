@@ -79,12 +79,14 @@ class RecordingLanguageLibraries : public MemoryLanguageLibraries {
     std::optional<Failure> failure;
 };
 
-/// A locale whose decimal separator a test chooses.
+/// A locale whose decimal separator and number a test chooses.
 class ChosenUserLocale : public PlainUserLocale {
   public:
     char32_t DecimalSeparator() const override { return decimalSeparator; }
+    std::uint32_t Number() const override { return number; }
 
     char32_t decimalSeparator = U'.';
+    std::uint32_t number = 1033;
 };
 
 /// Scripted boxes whose OK boxes a test can have cancelled, or fail.
@@ -111,10 +113,26 @@ class RecordingFileDialog : public ScriptedFileDialog {
 class ChosenOptionsFormView : public ScriptedOptionsFormView {
   public:
     using ScriptedOptionsFormView::ScriptedOptionsFormView;
+    FormFont DefaultFont() const override {
+        ++timesAskedForFont;
+        return font;
+    }
     void ShowModal(OptionsFormEvents& form) override;
 
+    FormFont font;
+    mutable int timesAskedForFont = 0;
     int timesShown = 0;
     std::function<void(OptionsFormEvents&)> use;
+};
+
+/// Remembers the pages that it is asked to show, as "wxbrgENU.hlp#50000".
+class RecordingHelpViewer : public HelpViewer {
+  public:
+    void ShowPage(std::string_view helpFile, std::int32_t number) override {
+        shown.push_back(std::string(helpFile) + "#" + std::to_string(number));
+    }
+
+    std::vector<std::string> shown;
 };
 
 /// A fresh global block on a platform of fakes, with the objects that stand behind the language library: what
@@ -148,10 +166,11 @@ class RunFixture : public testing::Test {
     ChosenMessageBox messageBox_{script_};
     RecordingFileDialog fileDialog_{script_};
     ChosenOptionsFormView optionsFormView_{script_};
+    RecordingHelpViewer helpViewer_;
     NoProgress progress_;
-    Platform platform_{profileStore_,    languageLibraries_, codePage_,   clock_,
-                       userLocale_,      fileSystem_,        messageBox_, fileDialog_,
-                       optionsFormView_, progress_,          "/program",  "wxbrg"};
+    Platform platform_{profileStore_, languageLibraries_, codePage_,   clock_,           userLocale_,
+                       fileSystem_,   messageBox_,        fileDialog_, optionsFormView_, helpViewer_,
+                       progress_,     "/program",         "wxbrg"};
 };
 
 }  // namespace wxbrg
