@@ -36,6 +36,7 @@ int RunArisCommandLine(const std::string& commandLine, const Surroundings& surro
                       .messageBox = *dialogs.messageBox,
                       .fileDialog = *dialogs.fileDialog,
                       .optionsFormView = *dialogs.optionsFormView,
+                      .helpViewer = *dialogs.helpViewer,
                       .progress = *progress,
                       .programDirectory = surroundings.programDirectory,
                       .programName = surroundings.programName};

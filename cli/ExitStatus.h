@@ -5,6 +5,6 @@ namespace wxbrg::cli::ExitStatus {
 inline constexpr int normal = 0;
 inline constexpr int failure = 1;      ///< a failure ended the run, or it could not begin
 inline constexpr int usage = 2;        ///< the arguments, or the case, are wrong
-inline constexpr int strict = 3;       ///< `--strict` was given, and there was a warning
+inline constexpr int strict = 3;       ///< there was a warning, with `--strict` or in a check
 inline constexpr int cancelled = 130;  ///< the user cancelled a dialog and said to end
 }  // namespace wxbrg::cli::ExitStatus

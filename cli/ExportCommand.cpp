@@ -11,8 +11,9 @@
 #include "cli/OpenedRepository.h"
 #include "cli/OptionSettings.h"
 #include "cli/ProcessTypes.h"
+#include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
-#include "cli/UnattendedDialogs.h"
+#include "cli/UnattendedPlatform.h"
 #include "cli/UsageError.h"
 #include "platform/scripted/OverlayProfileStore.h"
 #include "run/RunExport.h"
@@ -63,26 +64,18 @@ struct Unattended {
     OverlayProfileStore profileStore;
     std::unique_ptr<CodePage> codePage;
     std::unique_ptr<Progress> progress;
+    std::optional<std::string> mappingProfile;  ///< as in `Platform`
 };
 
 RunReport RunUnattended(const RunRequest& request, const std::string& output, aris::Automation& automation,
                         Unattended& own, const Surroundings& surroundings) {
-    PrintingMessageBox messageBox(surroundings.err, *own.progress);
-    GivenFileDialog fileDialog(output);
-    AcceptingOptionsFormView optionsFormView;
-    Platform platform{.profileStore = own.profileStore,
-                      .languageLibraries = surroundings.languageLibraries,
-                      .codePage = *own.codePage,
-                      .clock = surroundings.clock,
-                      .userLocale = surroundings.userLocale,
-                      .fileSystem = surroundings.fileSystem,
-                      .messageBox = messageBox,
-                      .fileDialog = fileDialog,
-                      .optionsFormView = optionsFormView,
-                      .progress = *own.progress,
-                      .programDirectory = surroundings.programDirectory,
-                      .programName = surroundings.programName};
-    RunReport report = RunExport(request, platform, automation);
+    UnattendedPlatform platform(surroundings, {.profileStore = own.profileStore,
+                                               .codePage = *own.codePage,
+                                               .progress = *own.progress,
+                                               .told = surroundings.err,
+                                               .output = output,
+                                               .mappingProfile = own.mappingProfile});
+    RunReport report = RunExport(request, platform.Get(), automation);
     own.progress->Report({}, 0, 0);
     return report;
 }
@@ -93,11 +86,12 @@ int RunExportCommand(const ExportArguments& given, const Surroundings& surroundi
     const auto start = std::chrono::steady_clock::now();
     RequireOutputApart(given);
     Unattended own{OverlayProfileStore(surroundings.profileStore), OpenCodePage(given, surroundings),
-                   surroundings.progress()};
+                   surroundings.progress(), ChosenProfile(given.rules, surroundings.fileSystem)};
     PutSettings(given, own.profileStore);
     // What the boxes say here, those of the run say again, where it comes to one.
     std::ostringstream told;
-    const ProcessTypes inForce = ProcessTypesInForce(surroundings, own.profileStore, *own.codePage, told);
+    const ProcessTypes inForce =
+        ProcessTypesInForce(surroundings, {own.profileStore, *own.codePage, own.mappingProfile}, told);
     if (inForce.report.ending != RunEnding::normal) {
         surroundings.err << told.str();
         TellProgramFailure(inForce.report, surroundings.err);

@@ -7,6 +7,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/OpenedRepository.h"
 #include "cli/ProcessTypes.h"
+#include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
 #include "support/Text.h"
 
@@ -34,8 +35,10 @@ std::string GroupPath(const OpenedRepository& repository, ARISModel model) {
 
 int RunModelsCommand(const ModelsArguments& given, const Surroundings& surroundings) {
     const std::unique_ptr<CodePage> codePage = surroundings.codePage(std::nullopt);
-    const ProcessTypes inForce =
-        ProcessTypesInForce(surroundings, surroundings.profileStore, *codePage, surroundings.err);
+    const ProcessTypes inForce = ProcessTypesInForce(
+        surroundings,
+        {surroundings.profileStore, *codePage, ChosenProfile(given.rules, surroundings.fileSystem)},
+        surroundings.err);
     if (inForce.report.ending != RunEnding::normal) {
         TellProgramFailure(inForce.report, surroundings.err);
         return ExitStatusOf(inForce.report, false);

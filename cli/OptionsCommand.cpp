@@ -16,8 +16,8 @@ struct ValueAndOrigin {
 };
 
 ProfileValue DefaultOf(std::string_view name) {
-    if (const ExportOption* option = FindOption(name)) return option->byDefault;
-    return name == languageValue ? std::string("ENU") : std::string();
+    if (const ExportOption* option = FindOption(name)) return option->ByDefault();
+    return name == languageValue ? std::string(defaultLanguage) : std::string();
 }
 
 ValueAndOrigin InForce(const ProfileStore& store, std::string_view name) {

@@ -1,31 +1,22 @@
 #include "cli/ProcessTypes.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "cli/UnattendedDialogs.h"
+#include "cli/UnattendedPlatform.h"
 #include "platform/scripted/NoProgress.h"
 
 namespace wxbrg::cli {
 
-ProcessTypes ProcessTypesInForce(const Surroundings& surroundings, ProfileStore& profileStore,
-                                 CodePage& codePage, std::ostream& told) {
+ProcessTypes ProcessTypesInForce(const Surroundings& surroundings, const RulesInForce& rules,
+                                 std::ostream& told) {
     NoProgress progress;
-    PrintingMessageBox messageBox(told, progress);
-    GivenFileDialog fileDialog{std::string()};
-    AcceptingOptionsFormView optionsFormView;
-    Platform platform{.profileStore = profileStore,
-                      .languageLibraries = surroundings.languageLibraries,
-                      .codePage = codePage,
-                      .clock = surroundings.clock,
-                      .userLocale = surroundings.userLocale,
-                      .fileSystem = surroundings.fileSystem,
-                      .messageBox = messageBox,
-                      .fileDialog = fileDialog,
-                      .optionsFormView = optionsFormView,
-                      .progress = progress,
-                      .programDirectory = surroundings.programDirectory,
-                      .programName = surroundings.programName};
-    return ReadProcessTypes(platform);
+    UnattendedPlatform platform(surroundings, {.profileStore = rules.profileStore,
+                                               .codePage = rules.codePage,
+                                               .progress = progress,
+                                               .told = told,
+                                               .mappingProfile = rules.mappingProfile});
+    return ReadProcessTypes(platform.Get());
 }
 
 bool IsProcessTypeIn(const ProcessTypes& inForce, std::int32_t modelType) {

@@ -1,16 +1,25 @@
 #pragma once
 
 #include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <string>
 
 #include "cli/Surroundings.h"
 #include "run/RunExport.h"
 
 namespace wxbrg::cli {
 
-/// Which models are mapped as processes, by the rules in force: those of the profile beside the program where
-/// there is one. Boxes about the profile are printed to `told`. `profileStore` says the language.
-ProcessTypes ProcessTypesInForce(const Surroundings& surroundings, ProfileStore& profileStore,
-                                 CodePage& codePage, std::ostream& told);
+/// Where rules come from, and how they are read.
+struct RulesInForce {
+    ProfileStore& profileStore;                 ///< says the language of the boxes
+    CodePage& codePage;                         ///< of the profile
+    std::optional<std::string> mappingProfile;  ///< as in `Platform`
+};
+
+/// Which models are mapped as processes by the rules. Boxes about the profile are printed to `told`.
+ProcessTypes ProcessTypesInForce(const Surroundings& surroundings, const RulesInForce& rules,
+                                 std::ostream& told);
 
 /// Whether a model type is among them.
 bool IsProcessTypeIn(const ProcessTypes& inForce, std::int32_t modelType);

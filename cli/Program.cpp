@@ -9,6 +9,7 @@
 #include "cli/ExportCommand.h"
 #include "cli/ModelsCommand.h"
 #include "cli/OptionsCommand.h"
+#include "cli/ProfileCommand.h"
 #include "cli/ReplayCommand.h"
 #include "cli/ToolParser.h"
 #include "cli/UsageError.h"
@@ -23,6 +24,8 @@ int RunSubcommand(const ToolArguments& arguments, const Surroundings& surroundin
             return RunExportCommand(arguments.exportRun, surroundings);
         case Subcommand::models:
             return RunModelsCommand(arguments.models, surroundings);
+        case Subcommand::profile:
+            return RunProfileCommand(arguments.profile, surroundings);
         case Subcommand::options:
             return RunOptionsCommand(arguments.options, surroundings);
         case Subcommand::replay:

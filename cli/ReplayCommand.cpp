@@ -16,6 +16,7 @@
 #include "options/ExportOptions.h"
 #include "platform/scripted/AnswerScript.h"
 #include "platform/scripted/MemoryProfileStore.h"
+#include "platform/scripted/NoHelp.h"
 #include "platform/scripted/NoProgress.h"
 #include "platform/scripted/PlainUserLocale.h"
 #include "platform/scripted/ScriptedFileDialog.h"
@@ -99,6 +100,7 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
     TranscribingMessageBox messageBox(answeringBox, surroundings.out);
     ScriptedFileDialog fileDialog(ready.script);
     ScriptedOptionsFormView optionsFormView(ready.script);
+    NoHelp helpViewer;
     NoProgress progress;
     Platform platform{.profileStore = ready.store,
                       .languageLibraries = surroundings.languageLibraries,
@@ -109,6 +111,7 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
                       .messageBox = messageBox,
                       .fileDialog = fileDialog,
                       .optionsFormView = optionsFormView,
+                      .helpViewer = helpViewer,
                       .progress = progress,
                       .programDirectory = fs::absolute(folder).string(),
                       .programName = profileStem};

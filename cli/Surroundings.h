@@ -8,16 +8,10 @@
 #include <string>
 
 #include "aris/Catalogue.h"
+#include "platform/Dialogs.h"
 #include "platform/Platform.h"
 
 namespace wxbrg::cli {
-
-/// The dialogs of an interactive run.
-struct Dialogs {
-    std::unique_ptr<MessageBox> messageBox;
-    std::unique_ptr<FileDialog> fileDialog;
-    std::unique_ptr<OptionsFormView> optionsFormView;
-};
 
 /// What the command line tool needs of the system and of the repository providers, whose kinds only main
 /// knows. What stands as a reference outlives the tool.
@@ -39,6 +33,7 @@ struct Surroundings {
     /// Shows progress where the standard error is a terminal, from one second after this call on, and nothing
     /// elsewhere. An empty stage takes away what is shown.
     std::function<std::unique_ptr<Progress>()> progress;
+    /// Opens the dialogs of an interactive run, on a desktop where there is one.
     std::function<Dialogs()> dialogs;
 
     aris::RepositoryFactory openRepository;

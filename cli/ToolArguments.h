@@ -14,8 +14,16 @@ struct RepositoryArguments {
     std::optional<std::int32_t> locale;  ///< nothing: the repository's first language
 };
 
+/// Which mapping rules count; with neither given, those of the profile beside the program, else the built-in
+/// ones.
+struct RuleArguments {
+    std::optional<std::string> profile;  ///< name of a mapping profile
+    bool builtIn = false;                ///< the built-in rules, whatever profile is there
+};
+
 struct ExportArguments {
     RepositoryArguments repository;
+    RuleArguments rules;
     std::string output;
     std::vector<std::string> models;  ///< names and Guids
     bool all = false;
@@ -29,6 +37,7 @@ struct ExportArguments {
 
 struct ModelsArguments {
     RepositoryArguments repository;
+    RuleArguments rules;
     bool all = false;
 };
 
@@ -40,18 +49,28 @@ struct OptionsArguments {
     std::string value;
 };
 
+enum class ProfileOperation { print, check, diff };
+
+struct ProfileArguments {
+    ProfileOperation operation = ProfileOperation::print;
+    RuleArguments rules;              ///< of `print`
+    std::string file;                 ///< of `check` and `diff`
+    std::optional<std::string> base;  ///< of `diff`; nothing: the built-in rules
+};
+
 struct ReplayArguments {
     std::string caseFolder;
     std::string outFolder;
 };
 
-enum class Subcommand { exportRun, models, options, replay };
+enum class Subcommand { exportRun, models, profile, options, replay };
 
 /// The parsed command line of the tool: the subcommand and what was given to it.
 struct ToolArguments {
     Subcommand subcommand = Subcommand::exportRun;
     ExportArguments exportRun;
     ModelsArguments models;
+    ProfileArguments profile;
     OptionsArguments options;
     ReplayArguments replay;
 };

@@ -38,6 +38,15 @@ void AddRepository(CLI::App& app, RepositoryArguments& repository) {
         ->type_name("FILE");
 }
 
+/// The options that say which rules count; `builtIn` is the one for the built-in rules.
+void AddRules(CLI::App& app, const char* builtIn, RuleArguments& rules) {
+    CLI::Option* flag =
+        app.add_flag(builtIn, rules.builtIn, "The built-in rules, whatever profile is beside the program");
+    app.add_option("--profile", rules.profile, "Mapping profile to take the rules from")
+        ->type_name("FILE")
+        ->excludes(flag);
+}
+
 void AddExport(CLI::App& app, ToolArguments& arguments) {
     ExportArguments& given = arguments.exportRun;
     CLI::App& command = *AddSubcommand(app, "export", "Export models, with no questions asked",
@@ -52,6 +61,7 @@ void AddExport(CLI::App& app, ToolArguments& arguments) {
                              ->type_name("NAME|GUID")
                              ->allow_extra_args(false);
     command.add_flag("--all", given.all, "Export every model of a process type")->excludes(model);
+    AddRules(command, "--default-rules", given.rules);
     command.add_option("--user", given.user, "User name for the file's header")->type_name("NAME");
     command.add_option("--language", given.language, "Language of messages and notes, such as ENU or DEU")
         ->type_name("TAG");
@@ -73,16 +83,35 @@ void AddModels(CLI::App& app, ToolArguments& arguments) {
         app, "models", "List the models of a process type: Guid, type number, type, group, name",
         Subcommand::models, arguments);
     AddRepository(command, arguments.models.repository);
+    AddRules(command, "--default-rules", arguments.models.rules);
     command.add_flag("--all", arguments.models.all, "List the models of all types");
 }
 
-CLI::App* AddAction(CLI::App& command, const char* name, const char* text, OptionsAction action,
-                    OptionsArguments& given) {
+/// Adds a word behind a subcommand; given, it sets `field` to `value`.
+template <class Action>
+CLI::App* AddAction(CLI::App& command, const char* name, const char* text, Action value, Action& field) {
     CLI::App* added = command.add_subcommand(name, text);
-    added->callback([action, &given] {
-        given.action = action;
+    added->callback([value, &field] {
+        field = value;
     });
     return added;
+}
+
+void AddProfile(CLI::App& app, ToolArguments& arguments) {
+    ProfileArguments& given = arguments.profile;
+    CLI::App& command = *AddSubcommand(app, "profile", "Print, check and compare mapping profiles",
+                                       Subcommand::profile, arguments);
+    command.require_subcommand(1);
+    CLI::App* print = AddAction(command, "print", "Print the mapping rules in force as a profile",
+                                ProfileOperation::print, given.operation);
+    AddRules(*print, "--default", given.rules);
+    CLI::App* check = AddAction(command, "check", "Tell what is wrong or doubtful in a profile",
+                                ProfileOperation::check, given.operation);
+    check->add_option("FILE", given.file, "Mapping profile to check")->required();
+    CLI::App* diff = AddAction(command, "diff", "Tell what a profile changes, rule by rule",
+                               ProfileOperation::diff, given.operation);
+    diff->add_option("FILE", given.file, "Mapping profile that changes something")->required();
+    diff->add_option("BASE", given.base, "Mapping profile to compare with; the built-in rules if not given");
 }
 
 void AddOptions(CLI::App& app, ToolArguments& arguments) {
@@ -91,15 +120,15 @@ void AddOptions(CLI::App& app, ToolArguments& arguments) {
         *AddSubcommand(app, "options", "Show and set the stored options", Subcommand::options, arguments);
     command.require_subcommand(0, 1);
     AddAction(command, "list", "Print name, value and origin of each option (the default)",
-              OptionsAction::list, given);
-    CLI::App* get = AddAction(command, "get", "Print one value", OptionsAction::get, given);
+              OptionsAction::list, given.action);
+    CLI::App* get = AddAction(command, "get", "Print one value", OptionsAction::get, given.action);
     get->add_option("NAME", given.name, "Option to print")->required();
-    CLI::App* set = AddAction(command, "set", "Store a value", OptionsAction::set, given);
+    CLI::App* set = AddAction(command, "set", "Store a value", OptionsAction::set, given.action);
     set->add_option("NAME", given.name, "Option to store")->required();
     set->add_option("VALUE", given.value, "Its value: a number, -1 and 0 for True and False, or a text")
         ->required();
     CLI::App* reset = AddAction(command, "reset", "Take stored values away, so that the defaults count again",
-                                OptionsAction::reset, given);
+                                OptionsAction::reset, given.action);
     reset->add_option("NAME", given.name, "Option to reset; all of them if not given");
 }
 
@@ -126,6 +155,7 @@ std::unique_ptr<CLI::App> MakeGrammar(ToolArguments& arguments) {
     });
     AddExport(*app, arguments);
     AddModels(*app, arguments);
+    AddProfile(*app, arguments);
     AddOptions(*app, arguments);
     AddReplay(*app, arguments);
     app->footer(footer);  // last, for subcommands take it over

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "mapping/ProfileFile.h"
 #include "mapping/ProfileGrammar.h"
 #include "mapping/clsMappingRuleToken.h"
 #include "run/Frame.h"
@@ -47,12 +48,19 @@ class ProfileTokenizer {
         while (position_ < text_.size() && text_[position_] == U' ') ++position_;
     }
 
+    /// Whether the rest of the text, in upper case, begins with a keyword.
+    bool StartsWith(std::string_view keyword) const {
+        return upper_.size() - position_ >= keyword.size() &&
+               std::equal(keyword.begin(), keyword.end(), upper_.data() + position_, [](char a, char32_t b) {
+                   return static_cast<unsigned char>(a) == b;
+               });
+    }
+
     bool TakeKeyword() {
         for (const std::string_view keyword : profileKeywords) {
-            const std::u32string characters = ToCharacters(keyword);
-            if (upper_.compare(position_, characters.size(), characters) != 0) continue;
+            if (!StartsWith(keyword)) continue;
             Add(TokenType::keyword, std::string(keyword));
-            Drop(characters.size());
+            Drop(keyword.size());
             return true;
         }
         return false;
@@ -108,8 +116,8 @@ class ProfileTokenizer {
 
 std::string clsIOHandler::ReadMappingProfile() {
     return Procedure("clsIOHandler.ReadMappingProfile", [&](Frame&) {
-        const std::string path = gPlatform->programDirectory + "/" + gPlatform->programName + ".prf";
-        MappingProfileFound = FileExists(path);
+        const std::string path = MappingProfilePath(*gPlatform);
+        MappingProfileFound = !path.empty() && FileExists(path);
         return MappingProfileFound ? ReadFile(path) : std::string();
     });
 }

@@ -1,14 +1,17 @@
 # bash completion for wxbrg(1)
 
 _wxbrg_words() {
-    # What can follow, by the subcommand (and for "options" its action) in $1.
+    # What can follow, by the subcommand (and for "profile" and "options" its action) in $1.
     case $1 in
-    '') echo 'export models options replay --help -h --version' ;;
+    '') echo 'export models profile options replay --help -h --version' ;;
     export)
-        echo '--locale --types --output -o --model --all --user --language --code-page --set --strict' \
-            '--quiet --help -h'
+        echo '--locale --types --output -o --model --all --profile --default-rules --user --language' \
+            '--code-page --set --strict --quiet --help -h'
         ;;
-    models) echo '--locale --types --all --help -h' ;;
+    models) echo '--locale --types --all --profile --default-rules --help -h' ;;
+    profile) echo 'print check diff --help -h' ;;
+    'profile print') echo '--default --profile --help -h' ;;
+    'profile '*) echo '--help -h' ;;
     options) echo 'list get set reset --help -h' ;;
     replay) echo '--out --help -h' ;;
     'options '*) echo '--help -h' ;;
@@ -37,11 +40,14 @@ _wxbrg() {
     local current=${COMP_WORDS[COMP_CWORD]} previous='' command=${COMP_WORDS[1]} words='' files=()
     ((COMP_CWORD > 0)) && previous=${COMP_WORDS[COMP_CWORD - 1]}
     ((COMP_CWORD == 1)) && command=''
-    if [[ $command == options ]] && ((COMP_CWORD > 2)); then command="options ${COMP_WORDS[2]}"; fi
+    if [[ $command == options || $command == profile ]] && ((COMP_CWORD > 2)); then
+        command="$command ${COMP_WORDS[2]}"
+    fi
 
     case "$command:$previous" in
     export:--output | export:-o) files=(_wxbrg_files "$current" .wpx) ;;
     export:--types | models:--types) files=(_wxbrg_files "$current") ;;
+    export:--profile | models:--profile | 'profile print:--profile') files=(_wxbrg_files "$current" .prf) ;;
     replay:--out) files=(compgen -d -- "$current") ;;
     export:--language) words='ENU DEU' ;;
     export:--set)
@@ -53,6 +59,7 @@ _wxbrg() {
         case "$command:$current" in
         *:-*) words=$(_wxbrg_words "$command") ;;
         export:* | models:*) files=(_wxbrg_files "$current" .aml .xml) ;;
+        'profile check:'* | 'profile diff:'*) files=(_wxbrg_files "$current" .prf) ;;
         replay:*) files=(compgen -d -- "$current") ;;
         'options get:'* | 'options set:'* | 'options reset:'*)
             ((COMP_CWORD == 3)) && words="$(_wxbrg_option_names) Language RepositoryPath"

@@ -133,7 +133,7 @@ TEST_F(Documents, ManualPageNamesTheArgumentsOfEachSubcommand) {
 TEST_F(Documents, ManualPageTellsEachExportOptionWithItsDefault) {
     const std::string page = ReadAll(packaging + "/wxbrg.1");
     for (const ExportOption& option : exportOptions) {
-        const std::string byDefault = option.byDefault < 0 ? "\\-1" : std::to_string(option.byDefault);
+        const std::string byDefault = option.ByDefault() < 0 ? "\\-1" : std::to_string(option.ByDefault());
         EXPECT_THAT(page, HasSubstr(".BR " + std::string(option.valueName) + " \" (" + byDefault + ")\"\n"));
     }
     for (const std::string_view name : StoredValueNames()) EXPECT_THAT(page, HasSubstr(std::string(name)));
@@ -176,7 +176,7 @@ TEST_F(Documents, CompletionOffersTheOptionsThatThereAre) {
 }
 
 TEST_F(Documents, CompletionOffersTheSubcommandsThatThereAre) {
-    for (const std::string path : {"", "options"}) {
+    for (const std::string path : {"", "profile", "options"}) {
         Names expected = OptionsOf(*parts.at(path));
         expected.merge(NamesOf(*parts.at(path)));
         EXPECT_THAT(Completions(Words(path, "")), UnorderedElementsAreArray(expected)) << path;
@@ -201,6 +201,18 @@ TEST_F(Documents, CompletionOffersFilesWhereFilesAreDue) {
     EXPECT_THAT(Completions({"export", packaging + "/wxbrg.b"}), testing::IsEmpty());
     EXPECT_THAT(Completions({"export", "--types", packaging + "/wxbrg.b"}),
                 testing::ElementsAre(packaging + "/wxbrg.bash"));
+    const std::string profiles = WXBRG_EXAMPLES "/profiles/";
+    for (std::vector<std::string> words : {std::vector<std::string>{"export", "--profile"},
+                                           {"models", "--profile"},
+                                           {"profile", "print", "--profile"},
+                                           {"profile", "check"},
+                                           {"profile", "diff", "a.prf"}}) {
+        words.push_back(profiles);
+        EXPECT_THAT(Completions(words),
+                    testing::ElementsAre(profiles + "descriptions.prf", profiles + "functions.prf",
+                                         profiles + "roles.prf"))
+            << words[1];
+    }
     EXPECT_THAT(Completions({"replay", packaging.substr(0, packaging.size() - 1)}),
                 testing::ElementsAre(packaging));
 }

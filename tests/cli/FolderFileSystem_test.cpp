@@ -5,8 +5,8 @@
 #include "cli/RepositoryFileAutomation.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "support/Failure.h"
+#include "tests/TemporaryFolder.h"
 #include "tests/cli/FakeCatalogue.h"
-#include "tests/cli/TemporaryFolder.h"
 
 namespace wxbrg::cli {
 namespace {

@@ -23,7 +23,7 @@ class InteractiveProgram : public ProgramTest {
 TEST_F(InteractiveProgram, AsksForOptionsAndFileAndExports) {
     const ProcessResult result = Answer("o\nresult\n");
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.err, "wxbrg: There is no display; the terminal is used instead.\n");
     EXPECT_THAT(result.out, AllOf(HasSubstr("[x]"), HasSubstr("Output file")));
     EXPECT_THAT(folder.Read("result.wpx"), AllOf(HasSubstr("'New_orders'"), HasSubstr("= me")));
     EXPECT_THAT(folder.Read("result.log"), HasSubstr("WXB03110I "));

@@ -94,7 +94,7 @@ TEST(StoredValueNames, AreTheExportOptionsAndTheTexts) {
 
 TEST(FindOption, FindsTheRowOrNone) {
     ASSERT_NE(FindOption("EXITCONDITIONS"), nullptr);
-    EXPECT_EQ(FindOption("EXITCONDITIONS")->control, "cbExitConditions");
+    EXPECT_EQ(FindOption("EXITCONDITIONS")->control->name, "cbExitConditions");
     EXPECT_EQ(FindOption("Exit"), nullptr);
     EXPECT_EQ(FindOption("Language"), nullptr);
 }

@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg::cli {
 

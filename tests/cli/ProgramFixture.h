@@ -7,14 +7,14 @@
 #include <utility>
 #include <vector>
 
+#include "tests/TemporaryFolder.h"
 #include "tests/cli/Process.h"
 #include "tests/cli/SmallExport.h"
-#include "tests/cli/TemporaryFolder.h"
 
 namespace wxbrg::cli {
 
-/// Runs the built program as a process in a folder of its own, with stored options of its own and in the
-/// plainest of locales.
+/// Runs the built program as a process in a folder of its own, with stored options of its own, in the
+/// plainest of locales and without a display.
 class ProgramTest : public testing::Test {
   protected:
     ProgramTest() { std::filesystem::create_directory(folder / "settings"); }
@@ -33,7 +33,10 @@ class ProgramTest : public testing::Test {
 
     TemporaryFolder folder;
     std::map<std::string, std::string> environment{{"XDG_CONFIG_HOME", (folder / "settings").string()},
-                                                   {"LC_ALL", "C"}};
+                                                   {"LC_ALL", "C"},
+                                                   {"DISPLAY", ""},
+                                                   {"WAYLAND_DISPLAY", ""},
+                                                   {"QT_QPA_PLATFORM", ""}};
 };
 
 }  // namespace wxbrg::cli

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "cli/UsageError.h"
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg::cli {
 namespace {

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg {
 namespace {
@@ -28,7 +28,7 @@ class TerminalFileDialogTest : public testing::Test {
     }
     std::string In(const std::string& name) const { return (folder / name).string(); }
 
-    cli::TemporaryFolder folder;
+    TemporaryFolder folder;
     FileDialogSettings settings;
     std::ostringstream out;
 };
@@ -39,7 +39,7 @@ TEST_F(TerminalFileDialogTest, ARelativeNameCountsFromTheInitialFolder) {
 }
 
 TEST_F(TerminalFileDialogTest, AnAbsoluteNameStandsForItself) {
-    const cli::TemporaryFolder other;
+    const TemporaryFolder other;
     EXPECT_EQ(Ask((other / "orders.wpx").string() + "\n"), (other / "orders.wpx").string());
 }
 

@@ -11,6 +11,7 @@
 #include "platform/scripted/FixedClock.h"
 #include "platform/scripted/MemoryLanguageLibraries.h"
 #include "platform/scripted/MemoryProfileStore.h"
+#include "platform/scripted/NoHelp.h"
 #include "platform/scripted/NoProgress.h"
 #include "platform/scripted/PlainUserLocale.h"
 #include "platform/terminal/TerminalFileDialog.h"
@@ -44,7 +45,8 @@ struct TestSurroundings {
                        [this] {
                            return Dialogs{std::make_unique<TerminalMessageBox>(in, out),
                                           std::make_unique<TerminalFileDialog>(in, out),
-                                          std::make_unique<TerminalOptionsFormView>(in, out)};
+                                          std::make_unique<TerminalOptionsFormView>(in, out),
+                                          std::make_unique<NoHelp>()};
                        },
                        OpenXmlRepository,
                        [](const std::string& folder, aris::LoadProgress progress) {

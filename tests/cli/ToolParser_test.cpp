@@ -76,6 +76,48 @@ TEST(ToolParser, AllAndModelExcludeEachOther) {
     EXPECT_EQ(Refused({"export", "a.aml", "-o", "b.wpx", "--all", "--model", "x"}).exitStatus, 2);
 }
 
+TEST(ToolParser, AnExportAndModelsTakeAProfileOrTheBuiltInRules) {
+    for (const std::string subcommand : {"export", "models"}) {
+        const auto rules = [&](const std::vector<std::string>& more) {
+            std::vector<std::string> arguments{subcommand, "a.aml"};
+            if (subcommand == "export") arguments.insert(arguments.end(), {"-o", "b.wpx"});
+            arguments.insert(arguments.end(), more.begin(), more.end());
+            const ToolArguments parsed = Parsed(arguments);
+            return subcommand == "export" ? parsed.exportRun.rules : parsed.models.rules;
+        };
+        EXPECT_EQ(rules({}).profile, std::nullopt);
+        EXPECT_FALSE(rules({}).builtIn);
+        EXPECT_EQ(rules({"--profile", "a.prf"}).profile, "a.prf");
+        EXPECT_EQ(rules({"--profile", ""}).profile, "");
+        EXPECT_TRUE(rules({"--default-rules"}).builtIn);
+    }
+    EXPECT_EQ(Refused({"export", "a.aml", "-o", "b.wpx", "--default-rules", "--profile", "x"}).exitStatus, 2);
+    EXPECT_EQ(Refused({"models", "a.aml", "--profile", "x", "--default-rules"}).exitStatus, 2);
+}
+
+TEST(ToolParser, ReadsWhatIsToBeDoneWithProfiles) {
+    EXPECT_EQ(Parsed({"profile", "print"}).subcommand, Subcommand::profile);
+    EXPECT_EQ(Parsed({"profile", "print"}).profile.operation, ProfileOperation::print);
+    EXPECT_TRUE(Parsed({"profile", "print", "--default"}).profile.rules.builtIn);
+    EXPECT_EQ(Parsed({"profile", "print", "--profile", "a.prf"}).profile.rules.profile, "a.prf");
+    const ProfileArguments check = Parsed({"profile", "check", "a.prf"}).profile;
+    EXPECT_EQ(check.operation, ProfileOperation::check);
+    EXPECT_EQ(check.file, "a.prf");
+    const ProfileArguments diff = Parsed({"profile", "diff", "a.prf"}).profile;
+    EXPECT_EQ(diff.operation, ProfileOperation::diff);
+    EXPECT_EQ(diff.file, "a.prf");
+    EXPECT_EQ(diff.base, std::nullopt);
+    EXPECT_EQ(Parsed({"profile", "diff", "a.prf", "b.prf"}).profile.base, "b.prf");
+}
+
+TEST(ToolParser, ProfilesNeedAWordAndItsArguments) {
+    EXPECT_EQ(Refused({"profile"}).exitStatus, 2);
+    EXPECT_EQ(Refused({"profile", "show"}).exitStatus, 2);
+    EXPECT_EQ(Refused({"profile", "check"}).exitStatus, 2);
+    EXPECT_EQ(Refused({"profile", "diff"}).exitStatus, 2);
+    EXPECT_EQ(Refused({"profile", "print", "--default", "--profile", "x"}).exitStatus, 2);
+}
+
 TEST(ToolParser, NumbersMustBeNumbers) {
     EXPECT_THAT(Refused({"export", "a.aml", "-o", "b.wpx", "--locale", "en"}).err, HasSubstr("--locale"));
     EXPECT_THAT(Refused({"export", "a.aml", "-o", "b.wpx", "--code-page", "-1"}).err,
@@ -165,7 +207,7 @@ TEST(ToolParser, SlashesAreNoOptions) {
 }
 
 TEST(SubcommandNames, AreThoseThatThereAre) {
-    EXPECT_THAT(SubcommandNames(), ElementsAre("export", "models", "options", "replay"));
+    EXPECT_THAT(SubcommandNames(), ElementsAre("export", "models", "profile", "options", "replay"));
 }
 
 }  // namespace

@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <string>
 
+#include "tests/TemporaryFolder.h"
 #include "tests/cases/runner/Arguments.h"
 #include "tests/cases/runner/Case.h"
 #include "tests/cli/Process.h"
-#include "tests/cli/TemporaryFolder.h"
 
 namespace wxbrg::cases {
 namespace {
@@ -46,7 +46,7 @@ class OutputFailures : public testing::Test {
     }
 
     const Case& simple_ = *FindCase("model_becomes_a_process_with_activities_and_a_connector");
-    cli::TemporaryFolder folder_;
+    TemporaryFolder folder_;
 };
 
 TEST_F(OutputFailures, AFolderThatCannotBeWrittenIsToldWithTheFilesName) {

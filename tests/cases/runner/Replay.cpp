@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "tests/TemporaryFolder.h"
 #include "tests/cases/runner/Arguments.h"
 #include "tests/cli/Process.h"
-#include "tests/cli/TemporaryFolder.h"
 
 namespace wxbrg::cases {
 
@@ -36,7 +36,7 @@ bool HasForm(std::string_view text, std::string_view form) {
 }  // namespace
 
 ReplayOutcome Replay(const std::filesystem::path& caseFolder) {
-    const cli::TemporaryFolder scratch;
+    const TemporaryFolder scratch;
     const std::filesystem::path out = scratch / "out";
     const cli::ProcessResult result = cli::RunProcess(
         {TheArguments().program.string(), "replay", caseFolder.string(), "--out", out.string()},

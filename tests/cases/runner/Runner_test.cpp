@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "tests/TemporaryFolder.h"
 #include "tests/cases/runner/Arguments.h"
 #include "tests/cases/runner/Case.h"
 #include "tests/cases/runner/Difference.h"
@@ -12,7 +13,6 @@
 #include "tests/cases/runner/Recording.h"
 #include "tests/cases/runner/Replay.h"
 #include "tests/cases/runner/Variation.h"
-#include "tests/cli/TemporaryFolder.h"
 
 namespace wxbrg::cases {
 namespace {
@@ -174,7 +174,7 @@ TEST(Arguments, WrongOnesAreRefused) {
 }
 
 TEST(Recording, WritesWhatTheReplayLeavesAndRemovesTheRest) {
-    const cli::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const Case copy{"copy", folder / "copy"};
     std::filesystem::copy(SomeCase().folder, copy.folder);
     folder.Write("copy/expected/old.wpx", "");
@@ -188,7 +188,7 @@ TEST(Recording, WritesWhatTheReplayLeavesAndRemovesTheRest) {
 }
 
 TEST(Recording, ACaseThatCannotBeReplayedStaysAsItIs) {
-    const cli::TemporaryFolder folder;
+    const TemporaryFolder folder;
     folder.Write("bad/expected/out.log", "kept");
     std::ostringstream out;
     EXPECT_FALSE(Record({"bad", folder / "bad"}, out));

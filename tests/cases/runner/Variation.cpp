@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "mapping/DefaultMappingRules.h"
+#include "mapping/ProfileText.h"
 #include "options/ExportOptions.h"
 #include "platform/scripted/ScriptLines.h"
-#include "tests/cli/TemporaryFolder.h"
+#include "tests/TemporaryFolder.h"
 
 namespace wxbrg::cases {
 
@@ -33,31 +33,31 @@ std::string OtherValue(std::string_view name, std::string_view stored) {
             return candidate.valueName == name;
         });
     if (option == exportOptions.end()) throw std::invalid_argument("no option " + std::string(name));
-    const int now = stored.empty() ? option->byDefault : std::stoi(std::string(stored));
-    if (option->kind == OptionKind::number) return std::to_string(now + 1);
+    const int now = stored.empty() ? option->ByDefault() : std::stoi(std::string(stored));
+    if (option->IsNumber()) return std::to_string(now + 1);
     return now == 0 ? "-1" : "0";
 }
 
-/// The clauses of one sort of rules: `keyword` and the name open that of a rule, `entry` writes one of its
-/// rows.
-template <class Rows, class Entry>
-std::string Clauses(std::string_view keyword, const Rows& rows, std::string_view idle, const Entry& entry) {
-    std::string text;
-    std::string_view open;
-    for (const auto& row : rows) {
-        if (row.rule != open) {
-            text += (open.empty() ? "" : "END\n") + std::string(keyword).append(row.rule).append("\n");
-            open = row.rule;
-        }
-        text += entry(row, row.rule == idle);
+/// Makes all that a rule names a number of nothing.
+void MakeIdle(clsMappingRule& rule) {
+    clsMappingRule idle;
+    idle.Name = rule.Name;
+    if (!rule.AttributeMapping.empty()) idle.AttributeMapping = std::to_string(noType);
+    for (clsObjectMapping mapping : rule.ColObjectMapping) {
+        mapping.ObjTypeNum = noType;
+        idle.ColObjectMapping.Add(mapping);
     }
-    return text + "END\n";
+    for (clsConnectionMapping mapping : rule.ColConnectionMapping) {
+        mapping.SourceObjTypeNum = noType;
+        idle.ColConnectionMapping.Add(mapping);
+    }
+    rule = idle;
 }
 
 }  // namespace
 
 ReplayOutcome ReplayWith(const Case& original, const std::string& file, const std::string& bytes) {
-    const cli::TemporaryFolder copy;
+    const TemporaryFolder copy;
     for (const auto& entry : fs::directory_iterator(original.folder))
         if (entry.is_regular_file()) fs::copy(entry.path(), copy.Path());
     WriteFile(copy / file, bytes);
@@ -72,26 +72,10 @@ std::string OptionsWithOther(std::string_view options, std::string_view name) {
 }
 
 std::string BuiltInProfile(std::string_view idle) {
-    const auto number = [](std::string_view keyword, std::int32_t value) {
-        return "  " + std::string(keyword) + " = " + std::to_string(value) + "\n";
-    };
-    const auto type = [&](const defaultRules::TypeRow& row, bool isIdle) {
-        return number("OBJECT_TYPE", isIdle ? noType : row.type);
-    };
-    const auto attribute = [&](const defaultRules::AttributeRow& row, bool isIdle) {
-        return number("ATTRIBUTE_TYPE", isIdle ? noType : row.attribute);
-    };
-    const auto step = [&](const defaultRules::StepRow& row, bool isIdle) {
-        const std::string entry = number("SOURCE_OBJECT_TYPE", isIdle ? noType : row.source) +
-                                  number("TARGET_OBJECT_TYPE", row.target) +
-                                  number("CONNECTION_KIND", row.kind) +
-                                  number("CONNECTION_TYPE", row.connection);
-        return row.continues.empty() ? entry
-                                     : entry + "  TARGET_OBJECT_RULE = " + std::string(row.continues) + "\n";
-    };
-    return Clauses("OBJECT_MAPPING ", defaultRules::types, idle, type) +
-           Clauses("ATTRIBUTE_MAPPING ", defaultRules::attributes, idle, attribute) +
-           Clauses("CONNECTION_MAPPING ", defaultRules::steps, idle, step);
+    RuleTable rules = BuiltInRules();
+    for (clsMappingRule& rule : rules)
+        if (rule.Name == idle) MakeIdle(rule);
+    return ProfileText(rules);
 }
 
 }  // namespace wxbrg::cases

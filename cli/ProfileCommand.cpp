@@ -1,0 +1,107 @@
+#include "cli/ProfileCommand.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "cli/ExitStatus.h"
+#include "cli/RuleChoice.h"
+#include "cli/UnattendedPlatform.h"
+#include "mapping/ProfileCheck.h"
+#include "mapping/ProfileDiff.h"
+#include "mapping/ProfileFile.h"
+#include "mapping/ProfileText.h"
+#include "platform/scripted/NoProgress.h"
+
+namespace wxbrg::cli {
+
+namespace {
+
+constexpr const char* builtInRules = "built-in rules";
+
+/// The profile that the arguments name, read as a run reads it.
+ProfileFile ReadFile(const RuleArguments& given, const Surroundings& surroundings) {
+    const std::unique_ptr<CodePage> codePage = surroundings.codePage(std::nullopt);
+    NoProgress progress;
+    UnattendedPlatform platform(surroundings,
+                                {.profileStore = surroundings.profileStore,
+                                 .codePage = *codePage,
+                                 .progress = progress,
+                                 .told = surroundings.err,
+                                 .mappingProfile = ChosenProfile(given, surroundings.fileSystem)});
+    return ReadProfileFile(platform.Get());
+}
+
+RuleArguments Named(const std::string& file) {
+    return {.profile = file, .builtIn = false};
+}
+
+void Tell(const std::string& file, const ProfileFinding& finding, std::ostream& out) {
+    const char* const severity = finding.severity == FindingSeverity::error ? "error" : "warning";
+    out << file << ':' << finding.place.line << ':' << finding.place.column << ": " << severity << ": "
+        << finding.text << '\n';
+}
+
+/// The rules that the arguments name; nothing, behind telling why, where they cannot be taken from the file.
+std::optional<RuleTable> ReadRules(const RuleArguments& given, const Surroundings& surroundings) {
+    const ProfileFile file = ReadFile(given, surroundings);
+    ProfileRules read = ReadProfileRules(file.text, surroundings.userLocale.DecimalSeparator());
+    for (const ProfileFinding& mistake : read.mistakes) Tell(file.name, mistake, surroundings.err);
+    if (!read.mistakes.empty()) return std::nullopt;
+    return std::move(read.rules);
+}
+
+int Print(const RuleArguments& given, const Surroundings& surroundings) {
+    const std::optional<RuleTable> rules = ReadRules(given, surroundings);
+    if (!rules) return ExitStatus::failure;
+    surroundings.out << ProfileText(*rules);
+    return ExitStatus::normal;
+}
+
+std::string Counted(std::ptrdiff_t count, const std::string& word) {
+    return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
+}
+
+int Check(const std::string& name, const Surroundings& surroundings) {
+    const ProfileFile file = ReadFile(Named(name), surroundings);
+    const std::vector<ProfileFinding> findings =
+        CheckProfile(file.text, surroundings.userLocale.DecimalSeparator());
+    for (const ProfileFinding& finding : findings) Tell(name, finding, surroundings.out);
+    const auto errors = std::count_if(findings.begin(), findings.end(), [](const ProfileFinding& finding) {
+        return finding.severity == FindingSeverity::error;
+    });
+    const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
+    surroundings.out << name << ": " << Counted(errors, "error") << ", " << Counted(warnings, "warning")
+                     << '\n';
+    if (errors > 0) return ExitStatus::failure;
+    return warnings > 0 ? ExitStatus::strict : ExitStatus::normal;
+}
+
+int Diff(const ProfileArguments& given, const Surroundings& surroundings) {
+    const RuleArguments base = given.base ? Named(*given.base) : RuleArguments{{}, true};
+    const std::optional<RuleTable> before = ReadRules(base, surroundings);
+    const std::optional<RuleTable> now = ReadRules(Named(given.file), surroundings);
+    if (!before || !now) return ExitStatus::failure;
+    surroundings.out << "--- " << given.base.value_or(builtInRules) << "\n+++ " << given.file << '\n'
+                     << DifferenceText(DifferencesOf(*before, *now), before->size());
+    return ExitStatus::normal;
+}
+
+}  // namespace
+
+int RunProfileCommand(const ProfileArguments& given, const Surroundings& surroundings) {
+    switch (given.operation) {
+        case ProfileOperation::check:
+            return Check(given.file, surroundings);
+        case ProfileOperation::diff:
+            return Diff(given, surroundings);
+        case ProfileOperation::print:
+            break;
+    }
+    return Print(given.rules, surroundings);
+}
+
+}  // namespace wxbrg::cli

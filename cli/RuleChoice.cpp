@@ -1,0 +1,21 @@
+#include "cli/RuleChoice.h"
+
+#include "cli/UsageError.h"
+#include "support/Failure.h"
+
+namespace wxbrg::cli {
+
+std::optional<std::string> ChosenProfile(const RuleArguments& given, FileSystem& files) {
+    if (given.builtIn) return std::string();
+    if (!given.profile) return std::nullopt;
+    if (given.profile->empty()) throw UsageError("The name of the mapping profile is empty; name a file.");
+    try {
+        files.Open(*given.profile, FileAccess::read)->Close();
+    } catch (const Failure& failure) {
+        throw UsageError("The mapping profile " + *given.profile + " cannot be read: " + failure.Description +
+                         '.');
+    }
+    return given.profile;
+}
+
+}  // namespace wxbrg::cli
