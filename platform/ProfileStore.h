@@ -14,7 +14,7 @@ using ProfileValue = std::variant<std::monostate, std::string, std::int32_t>;
 enum class ProfileScope { user, machine };
 
 /// The store of named values under named keys (on Windows the registry). Keys are paths with backslashes, a
-/// trailing one makes no difference; names of keys and values compare without regard to ASCII case.
+/// trailing one makes no difference; names of keys and values compare without regard to case.
 class ProfileStore {
   public:
     virtual ~ProfileStore() = default;
@@ -29,5 +29,10 @@ class ProfileStore {
     /// Takes a value out of the user's scope. Returns whether it is gone, also when it never was there.
     virtual bool Remove(std::string_view key, std::string_view name) = 0;
 };
+
+/// A key without backslashes at its end.
+inline std::string_view PlainProfileKey(std::string_view key) {
+    return key.substr(0, key.find_last_not_of('\\') + 1);
+}
 
 }  // namespace wxbrg

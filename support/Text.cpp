@@ -140,6 +140,16 @@ std::string_view Left(std::string_view text, std::size_t count) {
     return text.substr(0, position);
 }
 
+std::string_view WithinBytes(std::string_view text, std::size_t bytes) {
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const std::size_t next = end + CharacterLength(text.substr(end));
+        if (next > bytes) break;
+        end = next;
+    }
+    return text.substr(0, end);
+}
+
 std::string_view WithoutLast(std::string_view text, std::size_t count) {
     const std::size_t characters = CharacterCount(text);
     if (characters < count) throw Failure(FailureKind::invalidCall);

@@ -14,6 +14,9 @@ std::size_t CharacterCount(std::string_view text);
 /// The first `count` characters; the whole text when it has no more.
 std::string_view Left(std::string_view text, std::size_t count);
 
+/// As many whole characters as fit into `bytes` bytes.
+std::string_view WithinBytes(std::string_view text, std::size_t bytes);
+
 /// The text without its last `count` characters. Throws failure 5 when it has fewer.
 std::string_view WithoutLast(std::string_view text, std::size_t count);
 

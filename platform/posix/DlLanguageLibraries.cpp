@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "lang/LanguageLibraryAbi.h"
+#include "support/Text.h"
 
 namespace wxbrg {
 
@@ -13,15 +14,6 @@ namespace {
 /// A shared library that is unloaded when its last user goes.
 using SharedLibrary = std::unique_ptr<void, int (*)(void*)>;
 
-/// As much of a text as fits into `capacity` bytes with a terminating zero, without part of a character at
-/// its end.
-std::string CutToCapacity(std::string_view text, std::size_t capacity) {
-    if (text.size() < capacity) return std::string(text);
-    std::size_t end = capacity == 0 ? 0 : capacity - 1;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
-    return std::string(text.substr(0, end));
-}
-
 class DlLanguageLibrary : public LanguageLibrary {
   public:
     DlLanguageLibrary(SharedLibrary library, LanguageLibraryAbi::MessageFunction* message)
@@ -29,7 +21,8 @@ class DlLanguageLibrary : public LanguageLibrary {
 
     std::string LoadString(std::uint32_t number, std::size_t capacity) const override {
         const char* const text = message_(number);
-        return text == nullptr ? std::string() : CutToCapacity(text, capacity);
+        if (text == nullptr || capacity == 0) return {};
+        return std::string(WithinBytes(text, capacity - 1));
     }
 
   private:

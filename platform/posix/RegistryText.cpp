@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/ProfileStore.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -12,13 +13,8 @@ namespace {
 constexpr std::string_view firstLine = "REGEDIT4";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view WithoutTrailingBackslash(std::string_view key) {
-    while (key.ends_with('\\')) key.remove_suffix(1);
-    return key;
-}
-
 std::string FoldedKey(std::string_view key) {
-    return UpperCase(WithoutTrailingBackslash(key));
+    return UpperCase(PlainProfileKey(key));
 }
 
 bool IsFirstLine(std::string_view line) {
@@ -114,7 +110,7 @@ void RegistryText::InsertLine(std::size_t place, const std::string& text) {
 
 void RegistryText::AppendKey(std::string_view key) {
     if (lines_.back().entry.kind != RegistryEntry::Kind::filler) InsertLine(lines_.size(), "");
-    InsertLine(lines_.size(), std::string("[").append(WithoutTrailingBackslash(key)).append("]"));
+    InsertLine(lines_.size(), std::string("[").append(PlainProfileKey(key)).append("]"));
 }
 
 std::string RegistryText::Text() const {

@@ -8,8 +8,8 @@
 #include "aris/Catalogue.h"
 #include "aris/Repository.h"
 #include "support/Failure.h"
+#include "tests/TemporaryFolder.h"
 #include "tests/aris/RepositoryText.h"
-#include "tests/aris/TemporaryFolder.h"
 
 namespace wxbrg::test {
 

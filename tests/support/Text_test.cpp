@@ -174,5 +174,17 @@ TEST(AppendCharacter, WritesTheReplacementCharacterForWhatIsNone) {
     }
 }
 
+TEST(WithinBytes, KeepsWholeCharacters) {
+    EXPECT_EQ(WithinBytes(mixed, 100), mixed);
+    EXPECT_EQ(WithinBytes(mixed, 10), mixed);
+    EXPECT_EQ(WithinBytes(mixed, 9), "aä€");
+    EXPECT_EQ(WithinBytes(mixed, 6), "aä€");
+    EXPECT_EQ(WithinBytes(mixed, 5), "aä");
+    EXPECT_EQ(WithinBytes(mixed, 2), "a");
+    EXPECT_EQ(WithinBytes(mixed, 0), "");
+    EXPECT_EQ(WithinBytes("", 5), "");
+    EXPECT_EQ(WithinBytes("\xFFz", 1), "\xFF");
+}
+
 }  // namespace
 }  // namespace wxbrg
