@@ -8,12 +8,15 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "aris/xml/XmlAutomation.h"
 #include "aris/xml/XmlRepository.h"
 #include "cli/ExitStatus.h"
 #include "cli/Program.h"
+#include "options/modUtilities_language.h"
+#include "platform/posix/DlDesktop.h"
 #include "platform/posix/DlLanguageLibraries.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/PosixFileSystem.h"
@@ -23,8 +26,9 @@
 #include "platform/posix/SystemClock.h"
 #include "platform/scripted/NoProgress.h"
 #include "platform/terminal/TerminalFileDialog.h"
+#include "platform/terminal/TerminalHelpViewer.h"
 #include "platform/terminal/TerminalMessageBox.h"
-#include "platform/terminal/TerminalOptionsFormView.h"
+#include "platform/terminal/TerminalOptionsFormViews.h"
 #include "platform/terminal/TerminalProgress.h"
 
 namespace {
@@ -44,10 +48,20 @@ std::unique_ptr<Progress> ShowProgress() {
     return std::make_unique<TerminalProgress>(std::cerr);
 }
 
-cli::Dialogs MakeDialogs() {
+Dialogs MakeTerminalDialogs(const std::string& helpFolder) {
     return {std::make_unique<TerminalMessageBox>(std::cin, std::cout),
             std::make_unique<TerminalFileDialog>(std::cin, std::cout),
-            std::make_unique<TerminalOptionsFormView>(std::cin, std::cout)};
+            MakeTerminalOptionsFormView(std::cin, std::cout),
+            std::make_unique<TerminalHelpViewer>(std::cout, helpFolder)};
+}
+
+/// The dialogs of the desktop; where there are none, those of the terminal, and a line that says why.
+Dialogs MakeDialogs(const ProgramLocation& program, const ProfileStore& profileStore) {
+    std::variant<Dialogs, NoDesktop> opened =
+        OpenDesktop(program.directory, {StoredLanguage(profileStore), program.directory});
+    if (auto* const dialogs = std::get_if<Dialogs>(&opened)) return std::move(*dialogs);
+    std::cerr << "wxbrg: " << std::get<NoDesktop>(opened).reason << "; the terminal is used instead.\n";
+    return MakeTerminalDialogs(program.directory);
 }
 
 std::unique_ptr<aris::Automation> OpenFolder(const std::string& folder, aris::LoadProgress progress) {
@@ -78,7 +92,10 @@ int Run(const std::vector<std::string>& arguments) {
                                          .programName = program.name,
                                          .codePage = OpenCodePage,
                                          .progress = ShowProgress,
-                                         .dialogs = MakeDialogs,
+                                         .dialogs =
+                                             [&] {
+                                                 return MakeDialogs(program, profileStore);
+                                             },
                                          .openRepository = OpenXmlRepository,
                                          .folderAutomation = OpenFolder,
                                          .catalogueAutomation = OpenCatalogue};

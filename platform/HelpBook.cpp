@@ -93,18 +93,4 @@ const HelpPage* HelpBook::Page(std::int32_t number) const {
     return page == pages_.end() ? nullptr : &*page;
 }
 
-std::string FirstParagraph(const HelpPage& page) {
-    std::string paragraph;
-    std::string_view rest = page.text;
-    while (!rest.empty()) {
-        const std::string_view line = TakeLine(rest);
-        const bool between = line.empty() || line.starts_with('#');
-        if (between && !paragraph.empty()) break;
-        if (between) continue;
-        if (!paragraph.empty()) paragraph += ' ';
-        paragraph += line;
-    }
-    return paragraph;
-}
-
 }  // namespace wxbrg

@@ -36,8 +36,4 @@ class HelpBook {
     std::vector<HelpPage> pages_;
 };
 
-/// What a page says first: the paragraph behind its heading, in Markdown, as one line. It stands for itself
-/// and serves where a short text is asked for. Empty when the page has none.
-std::string FirstParagraph(const HelpPage& page);
-
 }  // namespace wxbrg

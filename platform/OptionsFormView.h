@@ -79,7 +79,8 @@ class OptionsFormView {
     virtual ~OptionsFormView() = default;
     /// The font of the platform's own dialogs.
     virtual FormFont DefaultFont() const { return {}; }
-    /// Shows the form and comes back when it has been ended.
+    /// Shows the form, with its first page in front and in the system's list of tasks where there is one, and
+    /// comes back when it has been ended.
     virtual void ShowModal(OptionsFormEvents& form) = 0;
 };
 

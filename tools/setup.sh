@@ -1,8 +1,9 @@
 # The common part of run.sh, test.sh and .ci/run, which source it at the repository's root.
 # shellcheck shell=bash disable=SC2034
 
-build_packages=(g++ cmake ninja-build python3 libexpat1-dev libcli11-dev)
-test_packages=(libgtest-dev libgmock-dev)
+build_packages=(g++ cmake ninja-build python3 libexpat1-dev libcli11-dev libncurses-dev qt6-base-dev
+    qt6-translations-l10n)
+test_packages=(libgtest-dev libgmock-dev desktop-file-utils tmux xvfb xdotool)
 check_packages=(clang-format clang-tidy shellcheck libbenchmark-dev unicode-data)
 
 # say TEXT...: a heading on standard output.

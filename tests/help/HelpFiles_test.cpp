@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <regex>
@@ -18,6 +19,22 @@
 
 namespace wxbrg {
 namespace {
+
+/// What a page says first, as one line.
+std::string FirstParagraph(const HelpPage& page) {
+    std::string paragraph;
+    std::string_view rest = page.text;
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        const bool between = line.empty() || line.starts_with('#');
+        if (between && !paragraph.empty()) break;
+        if (between) continue;
+        if (!paragraph.empty()) paragraph += ' ';
+        paragraph += line;
+    }
+    return paragraph;
+}
 
 using Numbers = std::set<std::int32_t>;
 

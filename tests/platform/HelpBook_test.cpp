@@ -77,13 +77,6 @@ TEST(HelpBook, ATextWithoutPagesIsAnEmptyBook) {
     EXPECT_TRUE(HelpBook("# Only a heading\n").Pages().empty());
 }
 
-TEST(HelpBook, TheFirstParagraphIsOneLine) {
-    const HelpBook book(
-        "<!-- page 7 -->\n# Seven\n\nFirst line\nand second.\n\nNext paragraph.\n<!-- page 8 -->\n# Eight\n");
-    EXPECT_EQ(FirstParagraph(*book.Page(7)), "First line and second.");
-    EXPECT_EQ(FirstParagraph(*book.Page(8)), "");
-}
-
 TEST(HelpBook, IsReadFromAFile) {
     const TemporaryFolder folder;
     const std::filesystem::path file = folder / "wxbrgENU.hlp";

@@ -1,0 +1,25 @@
+#include "platform/qt/QtHelpViewer.h"
+
+#include <QApplication>
+
+#include "platform/qt/HelpWindow.h"
+#include "platform/qt/Session.h"
+
+namespace wxbrg {
+
+QtHelpViewer::~QtHelpViewer() {
+    delete window_;
+}
+
+void QtHelpViewer::ShowPage(std::string_view helpFile, std::int32_t number) {
+    OpenSession(language_);
+    const std::string path = directory_ + "/" + std::string(helpFile);
+    if (window_ && window_->Path() != path) delete window_;
+    if (!window_) window_ = new HelpWindow(path, QApplication::activeModalWidget());
+    window_->ShowPage(number);
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
+}  // namespace wxbrg
