@@ -25,16 +25,29 @@ namespace wxbrg {
 
 namespace {
 
-using FormAct = void (OptionsFormEvents::*)();
-
 /// What the buttons of the form do.
 struct ButtonRow {
     std::string_view name;
-    FormAct act;
+    void (*act)(OptionsFormEvents& form);
 };
 constexpr std::array buttonActs{
-    ButtonRow{"cmdHelp", &OptionsFormEvents::Help}, ButtonRow{"cmdOK", &OptionsFormEvents::Ok},
-    ButtonRow{"cmdCancel", &OptionsFormEvents::Cancel}, ButtonRow{"cmdApply", &OptionsFormEvents::Apply}};
+    ButtonRow{"cmdHelp",
+              [](OptionsFormEvents& form) {
+                  form.Help();
+              }},
+    ButtonRow{"cmdOK",
+              [](OptionsFormEvents& form) {
+                  form.Ok();
+              }},
+    ButtonRow{"cmdCancel",
+              [](OptionsFormEvents& form) {
+                  form.Cancel();
+              }},
+    ButtonRow{"cmdApply",
+              [](OptionsFormEvents& form) {
+                  form.Apply();
+              }},
+};
 constexpr std::string_view helpButton = "cmdHelp";
 constexpr std::string_view defaultButton = "cmdOK";
 
@@ -92,8 +105,7 @@ void FormDialog::Run() {
     if (failure_) std::rethrow_exception(failure_);
 }
 
-template <class Act>
-void FormDialog::Do(Act act) {
+void FormDialog::Do(const std::function<void()>& act) {
     try {
         act();
         Refresh();
@@ -184,9 +196,9 @@ QWidget* FormDialog::MakeButton(const FormControlRow& row) {
             std::find_if(buttonActs.begin(), buttonActs.end(), [&row](const ButtonRow& candidate) {
                 return candidate.name == row.name;
             });
-        connect(button, &QAbstractButton::clicked, this, [this, act = pressed->act] {
-            Do([this, act] {
-                (form_.*act)();
+        connect(button, &QAbstractButton::clicked, this, [this, pressed] {
+            Do([this, pressed] {
+                pressed->act(form_);
             });
         });
         return button;

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <exception>
+#include <functional>
 #include <string_view>
 
 #include "platform/OptionsFormView.h"
@@ -47,8 +48,7 @@ class FormDialog : public QDialog {
 
     /// Brings what an act of the user brings: shows the form anew, and closes the window when the form has
     /// been ended or has failed.
-    template <class Act>
-    void Do(Act act);
+    void Do(const std::function<void()>& act);
     void Refresh();
     void Show(const FormControlRow& row);
     /// Help on the control that a widget is, or stands in.
