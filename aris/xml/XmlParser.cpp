@@ -142,22 +142,20 @@ void XmlParser::Parse(InputFile& file, const aris::LoadProgress& progress) {
         fed_ += got;
         Feed(got, last);
         if (progress) progress(fed_, std::max(fed_, file.Size()));
-        piece = std::clamp(static_cast<std::size_t>(Pending()), smallestPiece, largestPiece);
+        piece = std::clamp(static_cast<std::size_t>(pending_), smallestPiece, largestPiece);
     }
 }
 
 void XmlParser::Feed(std::size_t size, bool last) {
     const XML_Status status = XML_ParseBuffer(parser_.get(), static_cast<int>(size), last ? 1 : 0);
+    // Newer versions of expat put off what is not complete until there is much more of it, and tell no place.
+    const XML_Index told = XML_GetCurrentByteIndex(parser_.get());
+    pending_ = told < 0 ? pending_ + size : fed_ - static_cast<std::uint64_t>(told);
     if (thrown_) std::rethrow_exception(thrown_);
     if (status != XML_STATUS_OK) FailAsParser(XML_GetErrorCode(parser_.get()), last);
     // The tag around a value of the largest size is a little larger.
-    if (Pending() > largestValue + smallestPiece)
+    if (pending_ > largestValue + smallestPiece)
         Fail("what begins here is larger than 256 MiB", "Shorten the value in ARIS and export again.");
-}
-
-std::uint64_t XmlParser::Pending() const {
-    const XML_Index told = XML_GetCurrentByteIndex(parser_.get());
-    return told < 0 ? 0 : fed_ - static_cast<std::uint64_t>(told);
 }
 
 void XmlParser::Fail(std::string_view reason, std::string_view whatToDo) const {
@@ -169,7 +167,7 @@ void XmlParser::FailAsParser(XML_Error error, bool last) const {
     if (error == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
     Complaint complaint = ComplaintOf(error);
     // A word that the end of the file cuts, in front of the root element, is bad syntax without a length.
-    const bool cut = last && Pending() < fed_ && XML_GetCurrentByteCount(parser_.get()) == 0;
+    const bool cut = last && pending_ < fed_ && XML_GetCurrentByteCount(parser_.get()) == 0;
     if (error == XML_ERROR_SYNTAX && cut) complaint = endsEarly;
     if (fed_ == 0) complaint = emptyFile;
     FailAt(XML_GetErrorLineNumber(parser_.get()), XML_GetErrorColumnNumber(parser_.get()), complaint.reason,

@@ -61,13 +61,12 @@ class XmlParser {
     [[noreturn]] void FailAsParser(XML_Error error, bool last) const;
     [[noreturn]] void FailAt(XML_Size line, XML_Size column, std::string_view reason,
                              std::string_view whatToDo) const;
-    /// The bytes that expat was given and has not told of yet.
-    std::uint64_t Pending() const;
 
     XmlEvents& events_;
     std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser_;
     std::string fileName_;
     std::uint64_t fed_ = 0;
+    std::uint64_t pending_ = 0;  ///< the bytes that expat was given and has not told of yet
     std::exception_ptr thrown_;  // by an event; no exception crosses expat
     std::unordered_set<std::string, Hash, std::equal_to<>> entities_;
 };

@@ -266,6 +266,14 @@ TEST(XmlBadInput, WhatIsPassedOverMayBeLarger) {
     EXPECT_EQ(FailureOfOpeningFile(WriteLarge(folder, "<AML><OLEDef>", 300, "</OLEDef></AML>")).Number, 0);
 }
 
+TEST(XmlBadInput, ManySmallThingsInFrontOfTheRootMayBeLarger) {
+    const TemporaryFolder folder;
+    const std::string comment = "<!--" + std::string(std::size_t{1} << 20U, 'x') + "-->\n";
+    std::string text;
+    for (int i = 0; i < 300; ++i) text += comment;
+    EXPECT_EQ(FailureOfOpeningFile(folder.Write("demo.aml", text + "<AML/>")).Number, 0);
+}
+
 TEST(XmlBadInput, WhatTheProgressThrowsComesOut) {
     const TemporaryFolder folder;
     const auto stop = [](std::uint64_t, std::uint64_t) {
