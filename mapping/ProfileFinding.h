@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "mapping/ProfileReading.h"
+#include "support/Text.h"
 
 namespace wxbrg {
 
@@ -24,9 +25,12 @@ struct ProfileFinding {
     bool unreadable = false;
 };
 
-/// A text of the profile as findings show it.
+/// A text of the profile as findings show it: a control character, which a terminal might obey, as U+FFFD.
 inline std::string InQuotes(std::string_view text) {
-    return '"' + std::string(text) + '"';
+    std::u32string characters = ToCharacters(text);
+    for (char32_t& character : characters)
+        if (character < U' ' || (character >= U'\x7F' && character < U'\xA0')) character = U'\xFFFD';
+    return '"' + FromCharacters(characters) + '"';
 }
 
 }  // namespace wxbrg

@@ -42,6 +42,12 @@ std::string With(const std::string& own, std::initializer_list<std::string_view>
 constexpr const char* step =
     "SOURCE_OBJECT_TYPE = 22 TARGET_OBJECT_TYPE = 46 CONNECTION_KIND = 2 CONNECTION_TYPE = 65";
 
+TEST(ProfileCheck, ShowsNothingThatATerminalWouldObey) {
+    EXPECT_THAT(Findings("\x1B[2J\x07\xC2\x9B"
+                         "5m\n"),
+                Contains(HasSubstr("not \"\uFFFD[2J\uFFFD\uFFFD5m\"")));
+}
+
 TEST(ProfileCheck, TheBuiltInRulesAreClean) {
     EXPECT_THAT(Findings(ProfileText(BuiltInRules())), IsEmpty());
 }
