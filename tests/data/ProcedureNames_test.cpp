@@ -20,30 +20,13 @@
 #include "data/modROLE.h"
 #include "model/clsPROCESS.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/ProcedureNames.h"
 
 namespace wxbrg::test {
 namespace {
 
 class DataProcedureNamesTest : public CoreTest {
   protected:
-    template <class Object>
-    struct Row {
-        void (Object::*procedure)();
-        const char* name;  ///< without the class
-    };
-    /// Holds the procedures of a class against their names; a name with a point stands as it is.
-    template <class Object>
-    static void ExpectNames(const std::string& className, std::initializer_list<Row<Object>> rows) {
-        Object object;
-        for (const Row<Object>& row : rows) {
-            const std::string name = row.name;
-            EXPECT_EQ(NameOf([&] {
-                          (object.*row.procedure)();
-                      }),
-                      name.find('.') == std::string::npos ? className + "." + name : name);
-        }
-    }
-
     struct BatchRow {
         void (*procedure)(const Collection<ARISModel>&);
         const char* name;

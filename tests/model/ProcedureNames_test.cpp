@@ -10,28 +10,13 @@
 #include "model/modPROCESS.h"
 #include "model/modPoint.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/ProcedureNames.h"
 
 namespace wxbrg::test {
 namespace {
 
 class ModelProcedureNamesTest : public CoreTest {
   protected:
-    template <class Object>
-    struct Row {
-        void (Object::*procedure)();
-        const char* name;  ///< without the class
-    };
-    /// Holds the procedures of a class against their names.
-    template <class Object>
-    static void ExpectNames(const std::string& className, std::initializer_list<Row<Object>> rows) {
-        Object object;
-        for (const Row<Object>& row : rows)
-            EXPECT_EQ(NameOf([&] {
-                          (object.*row.procedure)();
-                      }),
-                      className + "." + row.name);
-    }
-
     Collection<ARISModel> newModels;
     clsPROCESS process;
     clsACTIVITY activity;
