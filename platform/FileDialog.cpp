@@ -2,6 +2,10 @@
 
 namespace wxbrg {
 
+bool IsPattern(std::string_view name) {
+    return name.find_first_of("*?") != std::string_view::npos;
+}
+
 std::string WithDefaultExtension(std::string name, const std::string& extension) {
     const std::size_t separator = name.find_last_of("/\\");
     const std::size_t lastPart = separator == std::string::npos ? 0 : separator + 1;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace wxbrg {
 
@@ -33,6 +34,9 @@ class FileDialog {
     /// Asks for the name of a file to save. Nothing when the user cancels.
     virtual std::optional<std::string> AskSaveName(const FileDialogSettings& settings) = 0;
 };
+
+/// Whether a name is a pattern such as "*.wpx", which names no file.
+bool IsPattern(std::string_view name);
 
 /// What a front end without a real dialog makes of a typed name: the default extension is added when the last
 /// part of the name holds no point.

@@ -14,10 +14,6 @@ namespace wxbrg {
 
 namespace {
 
-bool IsPattern(const QString& name) {
-    return name.contains('*') || name.contains('?');
-}
-
 bool Has(std::int32_t flags, std::int32_t flag) {
     return (flags & flag) != 0;
 }
@@ -55,8 +51,7 @@ void SetUp(QFileDialog& dialog, const FileDialogSettings& settings) {
     dialog.selectNameFilter(filters.value(settings.filterIndex - 1));
     const QString folder = ToQt(settings.initialDirectory);
     dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
-    const QString name = ToQt(settings.fileName);
-    if (!IsPattern(name)) dialog.selectFile(name);
+    if (!IsPattern(settings.fileName)) dialog.selectFile(ToQt(settings.fileName));
 }
 
 }  // namespace
@@ -78,7 +73,7 @@ std::optional<std::string> QtFileDialog::AskSaveName(const FileDialogSettings& s
     SetUp(dialog, settings);
     while (dialog.exec() == QDialog::Accepted) {
         const QFileInfo file(dialog.selectedFiles().value(0));
-        if (IsPattern(file.fileName()) || file.isDir()) continue;
+        if (IsPattern(file.fileName().toStdString()) || file.isDir()) continue;
         const QString objection = Objection(file, settings.flags);
         if (objection.isEmpty()) return file.filePath().toStdString();
         QMessageBox::warning(&dialog, dialog.windowTitle(), objection);

@@ -10,10 +10,6 @@ namespace wxbrg {
 
 namespace {
 
-bool IsPattern(std::string_view name) {
-    return name.find_first_of("*?") != std::string_view::npos;
-}
-
 /// Whether an existing file can be opened for writing; it is not changed.
 bool IsWritable(const std::filesystem::path& file) {
     return std::fstream(file, std::ios::in | std::ios::out | std::ios::binary).is_open();
