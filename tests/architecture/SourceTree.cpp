@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 
 bool IsLeftOut(const fs::path& folder) {
     const std::string name = folder.filename().string();
-    return name.starts_with('.') || name.starts_with("build") || folder == "tests/cases";
+    const bool isCase = folder.parent_path() == "tests/cases" && name != "runner";
+    return name.starts_with('.') || name.starts_with("build") || isCase;
 }
 
 bool IsWordCharacter(char byte) {
