@@ -5,6 +5,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 . tools/setup.sh
 
+install_packages "${build_packages[@]}" "${test_packages[@]}" clang-tidy
 cmake --preset dev --log-level=WARNING -D CMAKE_EXPORT_COMPILE_COMMANDS=ON
 build dev
 
