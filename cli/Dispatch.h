@@ -22,8 +22,4 @@ std::string JoinArguments(const std::vector<std::string>& arguments);
 /// Whether the text holds a switch of the ARIS command line in any case, followed by "=", ":" or a blank.
 bool HoldsArisSwitch(std::string_view text);
 
-/// The candidate that takes the fewest single-character changes to become from `word`; the first of several.
-/// Empty where there is no candidate.
-std::string Nearest(std::string_view word, const std::vector<std::string>& candidates);
-
 }  // namespace wxbrg::cli

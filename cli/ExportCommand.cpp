@@ -6,14 +6,14 @@
 #include <sstream>
 #include <system_error>
 
+#include "cli/BatchPlatform.h"
 #include "cli/ExportSummary.h"
 #include "cli/ModelChoice.h"
-#include "cli/OpenedRepository.h"
+#include "cli/OpenRepository.h"
 #include "cli/OptionSettings.h"
 #include "cli/ProcessTypes.h"
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
-#include "cli/UnattendedPlatform.h"
 #include "cli/UsageError.h"
 #include "platform/scripted/OverlayProfileStore.h"
 #include "run/RunExport.h"
@@ -22,8 +22,8 @@ namespace wxbrg::cli {
 
 namespace {
 
-std::unique_ptr<CodePage> OpenCodePage(const ExportArguments& given, const Surroundings& surroundings) {
-    std::unique_ptr<CodePage> codePage = surroundings.codePage(given.codePage);
+std::unique_ptr<CodePage> OpenCodePage(const ExportArguments& given, const ToolEnvironment& environment) {
+    std::unique_ptr<CodePage> codePage = environment.codePage(given.codePage);
     if (!codePage)
         throw UsageError("There is no code page " + std::to_string(given.codePage.value_or(0)) +
                          " on this system; 65001 is UTF-8, 1252 Western European.");
@@ -59,22 +59,22 @@ ExportSelection Select(const ExportArguments& given, const OpenedRepository& rep
     return selection;
 }
 
-/// What a run with nobody to ask stands on, apart from the surroundings.
-struct Unattended {
+/// What a run with nobody to ask stands on, apart from the environment.
+struct BatchParts {
     OverlayProfileStore profileStore;
     std::unique_ptr<CodePage> codePage;
     std::unique_ptr<Progress> progress;
     std::optional<std::string> mappingProfile;  ///< as in `Platform`
 };
 
-RunReport RunUnattended(const RunRequest& request, const std::string& output, aris::Automation& automation,
-                        Unattended& own, const Surroundings& surroundings) {
-    UnattendedPlatform platform(surroundings, {.profileStore = own.profileStore,
-                                               .codePage = *own.codePage,
-                                               .progress = *own.progress,
-                                               .told = surroundings.err,
-                                               .output = output,
-                                               .mappingProfile = own.mappingProfile});
+RunReport RunBatch(const RunRequest& request, const std::string& output, aris::Automation& automation,
+                   BatchParts& own, const ToolEnvironment& environment) {
+    BatchPlatform platform(environment, {.profileStore = own.profileStore,
+                                         .codePage = *own.codePage,
+                                         .progress = *own.progress,
+                                         .told = environment.err,
+                                         .output = output,
+                                         .mappingProfile = own.mappingProfile});
     RunReport report = RunExport(request, platform.Get(), automation);
     own.progress->Report({}, 0, 0);
     return report;
@@ -82,35 +82,35 @@ RunReport RunUnattended(const RunRequest& request, const std::string& output, ar
 
 }  // namespace
 
-int RunExportCommand(const ExportArguments& given, const Surroundings& surroundings) {
+int RunExportCommand(const ExportArguments& given, const ToolEnvironment& environment) {
     const auto start = std::chrono::steady_clock::now();
     RequireOutputApart(given);
-    Unattended own{OverlayProfileStore(surroundings.profileStore), OpenCodePage(given, surroundings),
-                   surroundings.progress(), ChosenProfile(given.rules, surroundings.fileSystem)};
+    BatchParts own{OverlayProfileStore(environment.profileStore), OpenCodePage(given, environment),
+                   environment.progress(), ChosenProfile(given.rules, environment.fileSystem)};
     PutSettings(given, own.profileStore);
     // What the boxes say here, those of the run say again, where it comes to one.
     std::ostringstream told;
     const ProcessTypes inForce =
-        ProcessTypesInForce(surroundings, {own.profileStore, *own.codePage, own.mappingProfile}, told);
+        ProcessTypesInForce(environment, {own.profileStore, *own.codePage, own.mappingProfile}, told);
     if (inForce.report.ending != RunEnding::normal) {
-        surroundings.err << told.str();
-        TellProgramFailure(inForce.report, surroundings.err);
+        environment.err << told.str();
+        TellProgramFailure(inForce.report, environment.err);
         return ExitStatusOf(inForce.report, given.strict);
     }
-    const OpenedRepository repository = OpenRepository(given.repository, surroundings, *own.progress);
+    const OpenedRepository repository = OpenRepository(given.repository, environment, *own.progress);
     RunRequest request;
     request.selection = Select(given, repository, inForce);
     const std::unique_ptr<aris::Automation> automation =
-        surroundings.catalogueAutomation(*repository.catalogue);
-    const RunReport report = RunUnattended(request, given.output, *automation, own, surroundings);
+        environment.catalogueAutomation(*repository.catalogue);
+    const RunReport report = RunBatch(request, given.output, *automation, own, environment);
 
-    TellProgramFailure(report, surroundings.err);
+    TellProgramFailure(report, environment.err);
     if (report.ending != RunEnding::normal || given.quiet)
-        TellLostCharacters(*own.codePage, surroundings.err);
+        TellLostCharacters(*own.codePage, environment.err);
     else
         WriteSummary({given.output, report, *repository.catalogue, own.codePage->Number(),
                       own.codePage->LackingCharacters(), std::chrono::steady_clock::now() - start},
-                     surroundings.out);
+                     environment.out);
     return ExitStatusOf(report, given.strict);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/Surroundings.h"
 #include "cli/ToolArguments.h"
+#include "cli/ToolEnvironment.h"
 
 namespace wxbrg::cli {
 
@@ -9,6 +9,6 @@ namespace wxbrg::cli {
 /// command line over them, boxes go to the standard error, and a summary to the standard output. Returns the
 /// exit status; throws `UsageError` for what cannot be asked so, and `Failure` where the repository cannot be
 /// read, both before anything is written.
-int RunExportCommand(const ExportArguments& given, const Surroundings& surroundings);
+int RunExportCommand(const ExportArguments& given, const ToolEnvironment& environment);
 
 }  // namespace wxbrg::cli

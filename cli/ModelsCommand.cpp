@@ -5,7 +5,7 @@
 #include <string>
 
 #include "cli/ExitStatus.h"
-#include "cli/OpenedRepository.h"
+#include "cli/OpenRepository.h"
 #include "cli/ProcessTypes.h"
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
@@ -33,24 +33,24 @@ std::string GroupPath(const OpenedRepository& repository, ARISModel model) {
 
 }  // namespace
 
-int RunModelsCommand(const ModelsArguments& given, const Surroundings& surroundings) {
-    const std::unique_ptr<CodePage> codePage = surroundings.codePage(std::nullopt);
+int RunModelsCommand(const ModelsArguments& given, const ToolEnvironment& environment) {
+    const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
     const ProcessTypes inForce = ProcessTypesInForce(
-        surroundings,
-        {surroundings.profileStore, *codePage, ChosenProfile(given.rules, surroundings.fileSystem)},
-        surroundings.err);
+        environment,
+        {environment.profileStore, *codePage, ChosenProfile(given.rules, environment.fileSystem)},
+        environment.err);
     if (inForce.report.ending != RunEnding::normal) {
-        TellProgramFailure(inForce.report, surroundings.err);
+        TellProgramFailure(inForce.report, environment.err);
         return ExitStatusOf(inForce.report, false);
     }
-    const std::unique_ptr<Progress> progress = surroundings.progress();
-    const OpenedRepository repository = OpenRepository(given.repository, surroundings, *progress);
+    const std::unique_ptr<Progress> progress = environment.progress();
+    const OpenedRepository repository = OpenRepository(given.repository, environment, *progress);
     progress->Report({}, 0, 0);
     for (const ARISModel& model : repository.catalogue->Models()) {
         if (!given.all && !IsProcessTypeIn(inForce, model->TypeNum())) continue;
-        surroundings.out << Field(model->Guid()) << '\t' << model->TypeNum() << '\t' << Field(model->Type())
-                         << '\t' << Field(GroupPath(repository, model)) << '\t'
-                         << Field(model->Name(repository.locale)) << '\n';
+        environment.out << Field(model->Guid()) << '\t' << model->TypeNum() << '\t' << Field(model->Type())
+                        << '\t' << Field(GroupPath(repository, model)) << '\t'
+                        << Field(model->Name(repository.locale)) << '\n';
     }
     return ExitStatus::normal;
 }

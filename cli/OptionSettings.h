@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "options/ExportOptions.h"
+#include "options/OptionTable.h"
 #include "platform/ProfileStore.h"
 
 namespace wxbrg::cli {

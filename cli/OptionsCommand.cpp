@@ -33,35 +33,35 @@ std::string TextOf(const ProfileValue& value) {
     return number ? std::to_string(*number) : std::get<std::string>(value);
 }
 
-int List(const Surroundings& surroundings) {
+int List(const ToolEnvironment& environment) {
     for (const std::string_view name : StoredValueNames()) {
-        const ValueAndOrigin found = InForce(surroundings.profileStore, name);
-        surroundings.out << name << '\t' << TextOf(found.value) << '\t' << found.origin << '\n';
+        const ValueAndOrigin found = InForce(environment.profileStore, name);
+        environment.out << name << '\t' << TextOf(found.value) << '\t' << found.origin << '\n';
     }
     return ExitStatus::normal;
 }
 
-int Get(const std::string& name, const Surroundings& surroundings) {
-    surroundings.out << TextOf(InForce(surroundings.profileStore, StoredValueName(name)).value) << '\n';
+int Get(const std::string& name, const ToolEnvironment& environment) {
+    environment.out << TextOf(InForce(environment.profileStore, StoredValueName(name)).value) << '\n';
     return ExitStatus::normal;
 }
 
-int Set(const OptionsArguments& given, const Surroundings& surroundings) {
+int Set(const OptionsArguments& given, const ToolEnvironment& environment) {
     const OptionSetting setting = ParseStoredValue(given.name, given.value);
-    if (surroundings.profileStore.Write(programKey, setting.name, setting.value)) return ExitStatus::normal;
-    surroundings.err << "wxbrg: The option " << setting.name
-                     << " could not be stored; is the folder of the user's settings writable?\n";
+    if (environment.profileStore.Write(programKey, setting.name, setting.value)) return ExitStatus::normal;
+    environment.err << "wxbrg: The option " << setting.name
+                    << " could not be stored; is the folder of the user's settings writable?\n";
     return ExitStatus::failure;
 }
 
-int Reset(const std::string& name, const Surroundings& surroundings) {
+int Reset(const std::string& name, const ToolEnvironment& environment) {
     std::vector<std::string_view> names = StoredValueNames();
     if (!name.empty()) names = {StoredValueName(name)};
     int status = ExitStatus::normal;
     for (const std::string_view each : names) {
-        if (surroundings.profileStore.Remove(programKey, each)) continue;
-        surroundings.err << "wxbrg: The stored option " << each
-                         << " could not be taken away; is the folder of the user's settings writable?\n";
+        if (environment.profileStore.Remove(programKey, each)) continue;
+        environment.err << "wxbrg: The stored option " << each
+                        << " could not be taken away; is the folder of the user's settings writable?\n";
         status = ExitStatus::failure;
     }
     return status;
@@ -69,18 +69,18 @@ int Reset(const std::string& name, const Surroundings& surroundings) {
 
 }  // namespace
 
-int RunOptionsCommand(const OptionsArguments& given, const Surroundings& surroundings) {
+int RunOptionsCommand(const OptionsArguments& given, const ToolEnvironment& environment) {
     switch (given.action) {
         case OptionsAction::get:
-            return Get(given.name, surroundings);
+            return Get(given.name, environment);
         case OptionsAction::set:
-            return Set(given, surroundings);
+            return Set(given, environment);
         case OptionsAction::reset:
-            return Reset(given.name, surroundings);
+            return Reset(given.name, environment);
         case OptionsAction::list:
             break;
     }
-    return List(surroundings);
+    return List(environment);
 }
 
 }  // namespace wxbrg::cli

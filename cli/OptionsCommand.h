@@ -1,13 +1,13 @@
 #pragma once
 
-#include "cli/Surroundings.h"
 #include "cli/ToolArguments.h"
+#include "cli/ToolEnvironment.h"
 
 namespace wxbrg::cli {
 
 /// Shows and changes the stored options of the user. `list` prints a line for each: name, value and where it
 /// comes from ("user", "machine" or "default"), separated by tabs. Returns the exit status; throws
 /// `UsageError` for a name that there is not and a value that is none.
-int RunOptionsCommand(const OptionsArguments& given, const Surroundings& surroundings);
+int RunOptionsCommand(const OptionsArguments& given, const ToolEnvironment& environment);
 
 }  // namespace wxbrg::cli

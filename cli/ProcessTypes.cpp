@@ -3,19 +3,19 @@
 #include <algorithm>
 #include <utility>
 
-#include "cli/UnattendedPlatform.h"
+#include "cli/BatchPlatform.h"
 #include "platform/scripted/NoProgress.h"
 
 namespace wxbrg::cli {
 
-ProcessTypes ProcessTypesInForce(const Surroundings& surroundings, const RulesInForce& rules,
+ProcessTypes ProcessTypesInForce(const ToolEnvironment& environment, const RulesInForce& rules,
                                  std::ostream& told) {
     NoProgress progress;
-    UnattendedPlatform platform(surroundings, {.profileStore = rules.profileStore,
-                                               .codePage = rules.codePage,
-                                               .progress = progress,
-                                               .told = told,
-                                               .mappingProfile = rules.mappingProfile});
+    BatchPlatform platform(environment, {.profileStore = rules.profileStore,
+                                         .codePage = rules.codePage,
+                                         .progress = progress,
+                                         .told = told,
+                                         .mappingProfile = rules.mappingProfile});
     return ReadProcessTypes(platform.Get());
 }
 

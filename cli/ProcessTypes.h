@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/Surroundings.h"
+#include "cli/ToolEnvironment.h"
 #include "run/RunExport.h"
 
 namespace wxbrg::cli {
@@ -18,7 +18,7 @@ struct RulesInForce {
 };
 
 /// Which models are mapped as processes by the rules. Boxes about the profile are printed to `told`.
-ProcessTypes ProcessTypesInForce(const Surroundings& surroundings, const RulesInForce& rules,
+ProcessTypes ProcessTypesInForce(const ToolEnvironment& environment, const RulesInForce& rules,
                                  std::ostream& told);
 
 /// Whether a model type is among them.

@@ -7,9 +7,9 @@
 #include <string>
 #include <utility>
 
+#include "cli/BatchPlatform.h"
 #include "cli/ExitStatus.h"
 #include "cli/RuleChoice.h"
-#include "cli/UnattendedPlatform.h"
 #include "mapping/ProfileCheck.h"
 #include "mapping/ProfileDiff.h"
 #include "mapping/ProfileFile.h"
@@ -23,15 +23,14 @@ namespace {
 constexpr const char* builtInRules = "built-in rules";
 
 /// The profile that the arguments name, read as a run reads it.
-ProfileFile ReadFile(const RuleArguments& given, const Surroundings& surroundings) {
-    const std::unique_ptr<CodePage> codePage = surroundings.codePage(std::nullopt);
+ProfileFile ReadFile(const RuleArguments& given, const ToolEnvironment& environment) {
+    const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
     NoProgress progress;
-    UnattendedPlatform platform(surroundings,
-                                {.profileStore = surroundings.profileStore,
-                                 .codePage = *codePage,
-                                 .progress = progress,
-                                 .told = surroundings.err,
-                                 .mappingProfile = ChosenProfile(given, surroundings.fileSystem)});
+    BatchPlatform platform(environment, {.profileStore = environment.profileStore,
+                                         .codePage = *codePage,
+                                         .progress = progress,
+                                         .told = environment.err,
+                                         .mappingProfile = ChosenProfile(given, environment.fileSystem)});
     return ReadProfileFile(platform.Get());
 }
 
@@ -46,18 +45,18 @@ void Tell(const std::string& file, const ProfileFinding& finding, std::ostream& 
 }
 
 /// The rules that the arguments name; nothing, behind telling why, where they cannot be taken from the file.
-std::optional<RuleTable> ReadRules(const RuleArguments& given, const Surroundings& surroundings) {
-    const ProfileFile file = ReadFile(given, surroundings);
-    ProfileRules read = ReadProfileRules(file.text, surroundings.userLocale.DecimalSeparator());
-    for (const ProfileFinding& mistake : read.mistakes) Tell(file.name, mistake, surroundings.err);
+std::optional<RuleTable> ReadRules(const RuleArguments& given, const ToolEnvironment& environment) {
+    const ProfileFile file = ReadFile(given, environment);
+    ProfileRules read = ReadProfileRules(file.text, environment.userLocale.DecimalSeparator());
+    for (const ProfileFinding& mistake : read.mistakes) Tell(file.name, mistake, environment.err);
     if (!read.mistakes.empty()) return std::nullopt;
     return std::move(read.rules);
 }
 
-int Print(const RuleArguments& given, const Surroundings& surroundings) {
-    const std::optional<RuleTable> rules = ReadRules(given, surroundings);
+int Print(const RuleArguments& given, const ToolEnvironment& environment) {
+    const std::optional<RuleTable> rules = ReadRules(given, environment);
     if (!rules) return ExitStatus::failure;
-    surroundings.out << ProfileText(*rules);
+    environment.out << ProfileText(*rules);
     return ExitStatus::normal;
 }
 
@@ -65,43 +64,43 @@ std::string Counted(std::ptrdiff_t count, const std::string& word) {
     return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
 }
 
-int Check(const std::string& name, const Surroundings& surroundings) {
-    const ProfileFile file = ReadFile(Named(name), surroundings);
+int Check(const std::string& name, const ToolEnvironment& environment) {
+    const ProfileFile file = ReadFile(Named(name), environment);
     const std::vector<ProfileFinding> findings =
-        CheckProfile(file.text, surroundings.userLocale.DecimalSeparator());
-    for (const ProfileFinding& finding : findings) Tell(name, finding, surroundings.out);
+        CheckProfile(file.text, environment.userLocale.DecimalSeparator());
+    for (const ProfileFinding& finding : findings) Tell(name, finding, environment.out);
     const auto errors = std::count_if(findings.begin(), findings.end(), [](const ProfileFinding& finding) {
         return finding.severity == FindingSeverity::error;
     });
     const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
-    surroundings.out << name << ": " << Counted(errors, "error") << ", " << Counted(warnings, "warning")
-                     << '\n';
+    environment.out << name << ": " << Counted(errors, "error") << ", " << Counted(warnings, "warning")
+                    << '\n';
     if (errors > 0) return ExitStatus::failure;
     return warnings > 0 ? ExitStatus::strict : ExitStatus::normal;
 }
 
-int Diff(const ProfileArguments& given, const Surroundings& surroundings) {
+int Diff(const ProfileArguments& given, const ToolEnvironment& environment) {
     const RuleArguments base = given.base ? Named(*given.base) : RuleArguments{{}, true};
-    const std::optional<RuleTable> before = ReadRules(base, surroundings);
-    const std::optional<RuleTable> now = ReadRules(Named(given.file), surroundings);
+    const std::optional<RuleTable> before = ReadRules(base, environment);
+    const std::optional<RuleTable> now = ReadRules(Named(given.file), environment);
     if (!before || !now) return ExitStatus::failure;
-    surroundings.out << "--- " << given.base.value_or(builtInRules) << "\n+++ " << given.file << '\n'
-                     << DifferenceText(DifferencesOf(*before, *now), before->size());
+    environment.out << "--- " << given.base.value_or(builtInRules) << "\n+++ " << given.file << '\n'
+                    << DifferenceText(DifferencesOf(*before, *now), before->size());
     return ExitStatus::normal;
 }
 
 }  // namespace
 
-int RunProfileCommand(const ProfileArguments& given, const Surroundings& surroundings) {
+int RunProfileCommand(const ProfileArguments& given, const ToolEnvironment& environment) {
     switch (given.operation) {
         case ProfileOperation::check:
-            return Check(given.file, surroundings);
+            return Check(given.file, environment);
         case ProfileOperation::diff:
-            return Diff(given, surroundings);
+            return Diff(given, environment);
         case ProfileOperation::print:
             break;
     }
-    return Print(given.rules, surroundings);
+    return Print(given.rules, environment);
 }
 
 }  // namespace wxbrg::cli

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/Surroundings.h"
 #include "cli/ToolArguments.h"
+#include "cli/ToolEnvironment.h"
 
 namespace wxbrg::cli {
 
@@ -11,6 +11,6 @@ namespace wxbrg::cli {
 /// `print` and `diff` end with 1, and tell why on the standard error, for a profile whose rules cannot be
 /// taken from it; else with 0. `check` prints its findings to the standard output, a line each, and ends with
 /// 1 where one of them is an error, with 3 where there are warnings only.
-int RunProfileCommand(const ProfileArguments& given, const Surroundings& surroundings);
+int RunProfileCommand(const ProfileArguments& given, const ToolEnvironment& environment);
 
 }  // namespace wxbrg::cli

@@ -3,11 +3,12 @@
 #include <exception>
 #include <ostream>
 
-#include "cli/ArisCommandLine.h"
 #include "cli/Dispatch.h"
 #include "cli/ExitStatus.h"
 #include "cli/ExportCommand.h"
+#include "cli/InteractiveRun.h"
 #include "cli/ModelsCommand.h"
+#include "cli/NearestWord.h"
 #include "cli/OptionsCommand.h"
 #include "cli/ProfileCommand.h"
 #include "cli/ReplayCommand.h"
@@ -18,35 +19,35 @@ namespace wxbrg::cli {
 
 namespace {
 
-int RunSubcommand(const ToolArguments& arguments, const Surroundings& surroundings) {
+int RunSubcommand(const ToolArguments& arguments, const ToolEnvironment& environment) {
     switch (arguments.subcommand) {
         case Subcommand::exportRun:
-            return RunExportCommand(arguments.exportRun, surroundings);
+            return RunExportCommand(arguments.exportRun, environment);
         case Subcommand::models:
-            return RunModelsCommand(arguments.models, surroundings);
+            return RunModelsCommand(arguments.models, environment);
         case Subcommand::profile:
-            return RunProfileCommand(arguments.profile, surroundings);
+            return RunProfileCommand(arguments.profile, environment);
         case Subcommand::options:
-            return RunOptionsCommand(arguments.options, surroundings);
+            return RunOptionsCommand(arguments.options, environment);
         case Subcommand::replay:
             break;
     }
-    return RunReplayCommand(arguments.replay, surroundings);
+    return RunReplayCommand(arguments.replay, environment);
 }
 
-int RunTool(const std::vector<std::string>& arguments, const Surroundings& surroundings) {
+int RunTool(const std::vector<std::string>& arguments, const ToolEnvironment& environment) {
     ToolArguments given;
     const ParseResult result = ParseTool(arguments, given);
-    surroundings.out << result.out;
-    surroundings.err << result.err;
-    return result.parsed ? RunSubcommand(given, surroundings) : result.exitStatus;
+    environment.out << result.out;
+    environment.err << result.err;
+    return result.parsed ? RunSubcommand(given, environment) : result.exitStatus;
 }
 
-int Run(const std::vector<std::string>& arguments, const Surroundings& surroundings) {
+int Run(const std::vector<std::string>& arguments, const ToolEnvironment& environment) {
     const std::vector<std::string> subcommands = SubcommandNames();
     switch (Dispatch(arguments, subcommands)) {
         case StartedAs::arisCommandLine:
-            return RunArisCommandLine(JoinArguments(arguments), surroundings);
+            return RunInteractively(JoinArguments(arguments), environment);
         case StartedAs::unknownWord:
             throw UsageError("There is no subcommand \"" + arguments.front() + "\"; did you mean \"" +
                              Nearest(arguments.front(), subcommands) +
@@ -54,23 +55,23 @@ int Run(const std::vector<std::string>& arguments, const Surroundings& surroundi
         case StartedAs::tool:
             break;
     }
-    return RunTool(arguments, surroundings);
+    return RunTool(arguments, environment);
 }
 
 }  // namespace
 
-int RunProgram(const std::vector<std::string>& arguments, const Surroundings& surroundings) {
+int RunProgram(const std::vector<std::string>& arguments, const ToolEnvironment& environment) {
     int status = ExitStatus::failure;
     try {
-        status = Run(arguments, surroundings);
+        status = Run(arguments, environment);
     } catch (const UsageError& error) {
-        surroundings.err << "wxbrg: " << error.what() << '\n';
+        environment.err << "wxbrg: " << error.what() << '\n';
         status = ExitStatus::usage;
     } catch (const std::exception& error) {
-        surroundings.err << "wxbrg: " << error.what() << '\n';
+        environment.err << "wxbrg: " << error.what() << '\n';
     }
-    if (surroundings.out.flush()) return status;
-    surroundings.err << "wxbrg: The standard output could not be written.\n";
+    if (environment.out.flush()) return status;
+    environment.err << "wxbrg: The standard output could not be written.\n";
     return status == ExitStatus::normal ? ExitStatus::failure : status;
 }
 

@@ -13,7 +13,7 @@
 #include "cli/RunOutcome.h"
 #include "cli/Transcript.h"
 #include "cli/UsageError.h"
-#include "options/ExportOptions.h"
+#include "options/OptionTable.h"
 #include "platform/scripted/AnswerScript.h"
 #include "platform/scripted/MemoryProfileStore.h"
 #include "platform/scripted/NoHelp.h"
@@ -54,8 +54,8 @@ MemoryProfileStore StoreOf(const ReplayCase& given, const fs::path& folder) {
     return store;
 }
 
-std::unique_ptr<CodePage> CodePageOf(const ReplayCase& given, const Surroundings& surroundings) {
-    std::unique_ptr<CodePage> codePage = surroundings.codePage(given.codePage);
+std::unique_ptr<CodePage> CodePageOf(const ReplayCase& given, const ToolEnvironment& environment) {
+    std::unique_ptr<CodePage> codePage = environment.codePage(given.codePage);
     if (!codePage)
         throw UsageError("The case asks for the code page " + std::to_string(given.codePage) +
                          ", which this system does not have.");
@@ -82,30 +82,30 @@ struct ReadyCase {
     std::unique_ptr<CodePage> codePage;
 };
 
-ReadyCase MakeReady(const fs::path& folder, const Surroundings& surroundings) {
+ReadyCase MakeReady(const fs::path& folder, const ToolEnvironment& environment) {
     ReplayCase given = ReadReplayCase(folder);
     MemoryProfileStore store = StoreOf(given, folder);
     AnswerScript script = ReadPart(folder / "answers", [&] {
         return AnswerScript::Parse(given.answers);
     });
-    std::unique_ptr<CodePage> codePage = CodePageOf(given, surroundings);
+    std::unique_ptr<CodePage> codePage = CodePageOf(given, environment);
     return {std::move(given), std::move(store), std::move(script), std::move(codePage)};
 }
 
 RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
-                  const Surroundings& surroundings) {
+                  const ToolEnvironment& environment) {
     PlainUserLocale userLocale;
-    FolderFileSystem files(surroundings.fileSystem, out);
+    FolderFileSystem files(environment.fileSystem, out);
     ScriptedMessageBox answeringBox(ready.script);
-    TranscribingMessageBox messageBox(answeringBox, surroundings.out);
+    TranscribingMessageBox messageBox(answeringBox, environment.out);
     ScriptedFileDialog fileDialog(ready.script);
     ScriptedOptionsFormView optionsFormView(ready.script);
     NoHelp helpViewer;
     NoProgress progress;
     Platform platform{.profileStore = ready.store,
-                      .languageLibraries = surroundings.languageLibraries,
+                      .languageLibraries = environment.languageLibraries,
                       .codePage = *ready.codePage,
-                      .clock = surroundings.clock,
+                      .clock = environment.clock,
                       .userLocale = userLocale,
                       .fileSystem = files,
                       .messageBox = messageBox,
@@ -115,7 +115,7 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
                       .progress = progress,
                       .programDirectory = fs::absolute(folder).string(),
                       .programName = profileStem};
-    RepositoryFileAutomation automation(surroundings.openRepository, ready.given.repository.string());
+    RepositoryFileAutomation automation(environment.openRepository, ready.given.repository.string());
     RunRequest request;
     request.commandLine = ready.given.commandLine;
     return RunExport(request, platform, automation);
@@ -123,17 +123,17 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
 
 }  // namespace
 
-int RunReplayCommand(const ReplayArguments& given, const Surroundings& surroundings) {
+int RunReplayCommand(const ReplayArguments& given, const ToolEnvironment& environment) {
     const fs::path folder = given.caseFolder;
     const fs::path out = given.outFolder;
-    ReadyCase ready = MakeReady(folder, surroundings);
+    ReadyCase ready = MakeReady(folder, environment);
     MakeOutFolder(out, folder);
-    const RunReport report = RunCase(ready, folder, out, surroundings);
+    const RunReport report = RunCase(ready, folder, out, environment);
     if (const std::optional<std::string>& error = ready.script.Error())
         throw UsageError((folder / "answers").string() + ": " + *error + ".");
-    TranscribeEnding(report, surroundings.out);
-    TellProgramFailure(report, surroundings.err);
-    WriteOptions(ready.store, out / "options", surroundings.fileSystem);
+    TranscribeEnding(report, environment.out);
+    TellProgramFailure(report, environment.err);
+    WriteOptions(ready.store, out / "options", environment.fileSystem);
     return ExitStatus::normal;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/Surroundings.h"
 #include "cli/ToolArguments.h"
+#include "cli/ToolEnvironment.h"
 
 namespace wxbrg::cli {
 
@@ -10,6 +10,6 @@ namespace wxbrg::cli {
 /// options after it, into the folder of the output, which is made if need be. Nothing else is read or changed
 /// apart from the program's language library. Returns the exit status; throws `UsageError` for a bad case and
 /// for answers that do not fit or run out.
-int RunReplayCommand(const ReplayArguments& given, const Surroundings& surroundings);
+int RunReplayCommand(const ReplayArguments& given, const ToolEnvironment& environment);
 
 }  // namespace wxbrg::cli

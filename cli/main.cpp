@@ -15,7 +15,7 @@
 #include "aris/xml/XmlRepository.h"
 #include "cli/ExitStatus.h"
 #include "cli/Program.h"
-#include "options/modUtilities_language.h"
+#include "options/MessageTexts.h"
 #include "platform/posix/DlDesktop.h"
 #include "platform/posix/DlLanguageLibraries.h"
 #include "platform/posix/IconvCodePage.h"
@@ -25,11 +25,11 @@
 #include "platform/posix/ProgramLocation.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/scripted/NoProgress.h"
-#include "platform/terminal/TerminalFileDialog.h"
-#include "platform/terminal/TerminalHelpViewer.h"
-#include "platform/terminal/TerminalMessageBox.h"
-#include "platform/terminal/TerminalOptionsFormViews.h"
-#include "platform/terminal/TerminalProgress.h"
+#include "platform/terminal/lines/TerminalFileDialog.h"
+#include "platform/terminal/lines/TerminalHelpViewer.h"
+#include "platform/terminal/lines/TerminalMessageBox.h"
+#include "platform/terminal/lines/TerminalOptionsFormViews.h"
+#include "platform/terminal/lines/TerminalProgress.h"
 
 namespace {
 
@@ -81,25 +81,25 @@ int Run(const std::vector<std::string>& arguments) {
     SystemClock clock;
     PosixUserLocale userLocale;
     PosixFileSystem fileSystem;
-    const cli::Surroundings surroundings{.out = std::cout,
-                                         .err = std::cerr,
-                                         .profileStore = profileStore,
-                                         .languageLibraries = languageLibraries,
-                                         .clock = clock,
-                                         .userLocale = userLocale,
-                                         .fileSystem = fileSystem,
-                                         .programDirectory = program.directory,
-                                         .programName = program.name,
-                                         .codePage = OpenCodePage,
-                                         .progress = ShowProgress,
-                                         .dialogs =
-                                             [&] {
-                                                 return MakeDialogs(program, profileStore);
-                                             },
-                                         .openRepository = OpenXmlRepository,
-                                         .folderAutomation = OpenFolder,
-                                         .catalogueAutomation = OpenCatalogue};
-    return cli::RunProgram(arguments, surroundings);
+    const cli::ToolEnvironment environment{.out = std::cout,
+                                           .err = std::cerr,
+                                           .profileStore = profileStore,
+                                           .languageLibraries = languageLibraries,
+                                           .clock = clock,
+                                           .userLocale = userLocale,
+                                           .fileSystem = fileSystem,
+                                           .programDirectory = program.directory,
+                                           .programName = program.name,
+                                           .codePage = OpenCodePage,
+                                           .progress = ShowProgress,
+                                           .dialogs =
+                                               [&] {
+                                                   return MakeDialogs(program, profileStore);
+                                               },
+                                           .openRepository = OpenXmlRepository,
+                                           .folderAutomation = OpenFolder,
+                                           .catalogueAutomation = OpenCatalogue};
+    return cli::RunProgram(arguments, environment);
 }
 
 }  // namespace

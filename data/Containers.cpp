@@ -1,7 +1,7 @@
 #include "data/Containers.h"
 
 #include "data/modDATA_STRUCTURE.h"
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 #include "run/Frame.h"
 
 namespace wxbrg {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleLookups.h"
+#include "mapping/RuleTable.h"
 #include "run/Frame.h"
 
 namespace wxbrg {

@@ -1,6 +1,6 @@
 #include "mapping/ProfileTable.h"
 
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleTable.h"
 #include "run/modGlobals.h"
 
 namespace wxbrg {

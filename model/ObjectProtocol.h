@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "aris/Repository.h"
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_names.h"
-#include "mapping/modUtilities_lists.h"
-#include "options/modUtilities_language.h"
+#include "mapping/NameConversion.h"
+#include "mapping/RuleLookups.h"
+#include "mapping/StringLists.h"
 #include "run/Frame.h"
+#include "run/LogNotes.h"
 #include "run/clsExceptionHandler.h"
 #include "run/modGlobals.h"
 #include "support/Collection.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleTable.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsPROCESS.h"
 

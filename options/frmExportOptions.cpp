@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <variant>
 
+#include "options/FormFont.h"
+#include "options/StoredValues.h"
 #include "options/modHelp.h"
 #include "options/modNLSGeneratedFormStrings.h"
-#include "options/modUtilities_fonts.h"
-#include "options/modUtilities_registry.h"
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
 #include "run/modGlobals.h"

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "options/ExportOptions.h"
 #include "options/FormControls.h"
+#include "options/OptionTable.h"
 #include "platform/OptionsFormView.h"
 #include "platform/ProfileStore.h"
 

@@ -1,7 +1,7 @@
 #include "options/modNLSGeneratedFormStrings.h"
 
+#include "options/MessageTexts.h"
 #include "options/frmExportOptions.h"
-#include "options/modUtilities_language.h"
 #include "run/modGlobals.h"
 
 namespace wxbrg {

@@ -1,6 +1,6 @@
 #include "output/modWPXWriter.h"
 
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"
 

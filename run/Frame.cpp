@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "options/modUtilities_language.h"
+#include "options/MessageTexts.h"
 #include "run/clsExceptionHandler.h"
 
 namespace wxbrg {

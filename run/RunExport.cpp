@@ -5,7 +5,7 @@
 
 #include "mapping/clsMappingRule.h"
 #include "model/modPROCESS.h"
-#include "options/modUtilities_language.h"
+#include "options/MessageTexts.h"
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
 #include "run/clsIOHandler.h"

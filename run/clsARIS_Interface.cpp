@@ -1,128 +1,12 @@
 #include "run/clsARIS_Interface.h"
 
-#include <algorithm>
-
-#include "mapping/modUtilities_lists.h"
 #include "run/Frame.h"
-#include "run/modGlobals.h"
-#include "support/Numbers.h"
-#include "support/Text.h"
 
 namespace wxbrg {
-
-namespace {
-
-/// A switch's value at or behind `after`, the position behind a found switch; null text where no value
-/// follows.
-struct SwitchValue {
-    bool follows = false;
-    std::u32string text;
-};
-
-SwitchValue ValueBehind(const std::u32string& raw, std::size_t after, char32_t slash) {
-    if (after >= raw.size()) return {};
-    const char32_t next = raw[after];
-    const bool last = after + 1 == raw.size();
-    if (next != U':' && next != U' ' && !(next == U'=' && !last)) return {};
-    std::u32string rest = raw.substr(after + 1);
-    const std::size_t end = rest.find(slash, 1);
-    if (end != std::u32string::npos) rest.resize(end);
-    return {true, std::move(rest)};
-}
-
-bool IsBlank(const std::u32string& text) {
-    return std::all_of(text.begin(), text.end(), [](char32_t character) {
-        return character == U' ';
-    });
-}
-
-}  // namespace
 
 clsARIS_Interface::clsARIS_Interface() {
     const NamedScope scope("clsARIS_Interface.Class_Initialize");
     scope.End();
-}
-
-std::string clsARIS_Interface::GetCommandLine(std::string_view Switch) {
-    const NamedScope scope("clsARIS_Interface.GetCommandLine");
-    const std::u32string raw = ToCharacters(gRunRequest->commandLine);
-    NarrowTo<std::int16_t>(raw.size());
-    const std::u32string upper = ToCharacters(UpperCase(gRunRequest->commandLine));
-    const std::u32string wanted = ToCharacters(Switch);
-    std::u32string value;
-    for (std::size_t found = upper.find(wanted); found != std::u32string::npos;
-         found = upper.find(wanted, found + 1)) {
-        SwitchValue behind = ValueBehind(raw, found + wanted.size(), wanted.front());
-        if (behind.follows) value = std::move(behind.text);
-        if (!IsBlank(value)) break;
-    }
-    scope.End();
-    return FromCharacters(value);
-}
-
-void clsARIS_Interface::SaveCommandlineArguments() {
-    Procedure("clsARIS_Interface.SaveCommandlineArguments", [&](Frame&) {
-        if (gRunRequest->selection) {
-            const ExportSelection& selection = *gRunRequest->selection;
-            sUser = selection.user;
-            sDatabase = selection.database;
-            sServer = selection.server;
-            sRegistry = selection.registry;
-            gLocale = selection.locale;
-            return;
-        }
-        const auto value = [](std::string_view name) {
-            return std::string(Trim(GetCommandLine(name)));
-        };
-        sUser = value("/USR");
-        sDatabase = value("/DB");
-        sServer = value("/SVR");
-        sRegistry = value("/REG");
-        sSelection = value("/SEL");
-        gLocale = ToInt16(value("/LOC"), DecimalSeparator());
-    });
-}
-
-void clsARIS_Interface::RetrieveSelectedARISModels() {
-    Procedure("clsARIS_Interface.RetrieveSelectedARISModels", [&](Frame& frame) {
-        oApplication = gAutomation->CreateObject(arisProgramId);
-        if (!oApplication) frame.Raise(2010);
-        oReportComponent = oApplication->GetComponent(arisReportComponent);
-        Database = oReportComponent->OpenDatabase(sServer, sDatabase, sRegistry, sUser, "");
-        std::string item;
-        const bool good = AddSelectedModels(item);
-        if (!good || ColSelectedModels.IsEmpty()) frame.Raise(2020, item);
-        gRunReport.modelsSelected = static_cast<std::uint64_t>(ColSelectedModels.Count());
-    });
-}
-
-bool clsARIS_Interface::AddSelectedModels(std::string& item) {
-    if (gRunRequest->selection) {
-        for (const ARISModel& model : gRunRequest->selection->models)
-            ColSelectedModels.Add(model, model->Guid());
-        return true;
-    }
-    for (const std::string& next : ConvertStringListToCollection(sSelection, ";")) {
-        item = next;
-        if (!AddSelectedModel(item)) return false;
-    }
-    return true;
-}
-
-bool clsARIS_Interface::AddSelectedModel(const std::string& item) {
-    const std::string guid = GetStringListItem(item, 0, ",");
-    if (guid.empty()) return false;
-    const std::string name = GetStringListItem(item, 1, ",");
-    if (name.empty()) return false;
-    const std::string type = GetStringListItem(item, 2, ",");
-    if (!IsNumeric(type, DecimalSeparator())) return false;
-    const std::int32_t typeNum = ToInt32(type, DecimalSeparator());
-    for (const ARISModel& model : Database->FindModels(nameAttribute, typeNum, 1, gLocale, name, 0)) {
-        if (model->Guid() != guid) continue;
-        ColSelectedModels.Add(model, guid);
-        break;
-    }
-    return true;
 }
 
 }  // namespace wxbrg

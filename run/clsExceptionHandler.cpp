@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "options/modUtilities_language.h"
+#include "options/MessageTexts.h"
 #include "run/FailurePolicy.h"
 #include "run/modGlobals.h"
 #include "support/Text.h"

@@ -3,8 +3,8 @@
 #include <optional>
 #include <variant>
 
-#include "options/ExportOptions.h"
-#include "options/modUtilities_registry.h"
+#include "options/OptionTable.h"
+#include "options/StoredValues.h"
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
 #include "support/Text.h"

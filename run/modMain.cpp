@@ -1,7 +1,7 @@
 #include "run/modMain.h"
 
 #include "data/StructureIndex.h"
-#include "options/modUtilities_language.h"
+#include "options/MessageTexts.h"
 #include "output/clsWPXWriter.h"
 #include "run/Frame.h"
 #include "run/clsARIS_Interface.h"

@@ -34,7 +34,7 @@ class AmlReader final : public XmlEvents {
 
     /// Reads the export. Throws failure 321 for one that is broken or none, failure 75 when the file cannot
     /// be read on.
-    void Read(InputFile& file, const aris::LoadProgress& progress) { parser_.Parse(file, progress); }
+    void Read(ExportFile& file, const aris::LoadProgress& progress) { parser_.Parse(file, progress); }
 
     void StartElement(const char* name, const char* const* attributes) override;
     void EndElement() override;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "aris/xml/BuiltInTypes.h"
-#include "aris/xml/InputFile.h"
+#include "aris/xml/ExportFile.h"
 #include "aris/xml/Spelling.h"
 #include "support/Failure.h"
 #include "support/Text.h"
@@ -99,7 +99,7 @@ std::string TypeTable::AddLine(std::string_view line) {
 
 void TypeTable::AddFile(const std::string& file) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    const std::string content = InputFile(file).ReadAll();
+    const std::string content = ExportFile(file).ReadAll();
     std::string_view rest = content;
     if (rest.starts_with(byteOrderMark)) rest.remove_prefix(byteOrderMark.size());
     for (std::size_t number = 1; !rest.empty(); ++number) {

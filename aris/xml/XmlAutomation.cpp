@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "aris/xml/InputFile.h"
+#include "aris/xml/ExportFile.h"
 #include "aris/xml/XmlRepository.h"
 
 namespace wxbrg {

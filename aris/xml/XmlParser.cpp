@@ -131,7 +131,7 @@ XmlParser::XmlParser(XmlEvents& events)
     XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser, largestAmplification);
 }
 
-void XmlParser::Parse(InputFile& file, const aris::LoadProgress& progress) {
+void XmlParser::Parse(ExportFile& file, const aris::LoadProgress& progress) {
     fileName_ = file.Name();
     std::size_t piece = smallestPiece;
     for (bool last = false; !last;) {

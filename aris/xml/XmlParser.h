@@ -12,7 +12,7 @@
 #include <unordered_set>
 
 #include "aris/Catalogue.h"
-#include "aris/xml/InputFile.h"
+#include "aris/xml/ExportFile.h"
 
 namespace wxbrg::xml {
 
@@ -41,7 +41,7 @@ class XmlParser {
 
     /// Reads the document. Throws failure 321 for one that is broken, with file, line, column, reason and
     /// what to do, failure 75 when the file cannot be read on, and what the events throw.
-    void Parse(InputFile& file, const aris::LoadProgress& progress);
+    void Parse(ExportFile& file, const aris::LoadProgress& progress);
 
     /// Throws failure 321 at the place of the event that is being told.
     [[noreturn]] void Fail(std::string_view reason, std::string_view whatToDo) const;

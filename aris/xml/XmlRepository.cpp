@@ -11,7 +11,7 @@
 
 #include "aris/xml/AmlReader.h"
 #include "aris/xml/AmlStore.h"
-#include "aris/xml/InputFile.h"
+#include "aris/xml/ExportFile.h"
 #include "support/Failure.h"
 
 namespace wxbrg {
@@ -128,7 +128,7 @@ std::vector<ARISGroup> XmlRepository::GroupPath(ARISModel model) const {
 std::unique_ptr<aris::Catalogue> OpenXmlRepository(const aris::RepositoryRequest& request) {
     xml::TypeTable types;
     if (!request.typesFile.empty()) types.AddFile(request.typesFile);
-    xml::InputFile file(request.file);
+    xml::ExportFile file(request.file);
     xml::AmlBuilder builder(std::move(types));
     xml::AmlReader(builder).Read(file, request.progress);
     std::unique_ptr<AmlStore> store = builder.Finish();

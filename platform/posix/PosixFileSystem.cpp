@@ -8,38 +8,12 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/posix/FileErrors.h"
 #include "support/Failure.h"
 
 namespace wxbrg {
 
 namespace {
-
-bool IsFolder(const std::string& name) {
-    struct stat status {};
-    return stat(name.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
-/// The folder that a file lies in.
-std::string FolderOf(const std::string& name) {
-    const std::size_t separator = name.rfind('/');
-    if (separator == std::string::npos) return ".";
-    return name.substr(0, separator + 1);
-}
-
-/// The run-time's number for a failed call on a file.
-std::int32_t FailureNumber(int error, const std::string& name) {
-    switch (error) {
-        case ENOENT:
-            return IsFolder(FolderOf(name)) ? FailureKind::fileNotFound : FailureKind::pathNotFound;
-        case ENOTDIR:
-            return FailureKind::pathNotFound;
-        case ENOSPC:
-        case EDQUOT:
-            return FailureKind::diskFull;
-        default:
-            return FailureKind::fileAccess;
-    }
-}
 
 class PosixFile : public File {
   public:
@@ -61,7 +35,7 @@ class PosixFile : public File {
 
   private:
     /// Throws the failure that `errno` tells of.
-    [[noreturn]] void Fail() const { throw Failure(FailureNumber(errno, name_), name_); }
+    [[noreturn]] void Fail() const { throw Failure(FailureNumberOf(errno, name_), name_); }
 
     std::string name_;
     int descriptor_;
@@ -112,7 +86,7 @@ std::unique_ptr<File> PosixFileSystem::Open(const std::string& name, FileAccess 
     do {
         descriptor = open(name.c_str(), OpenFlags(access), 0666);
     } while (descriptor < 0 && errno == EINTR);
-    if (descriptor < 0) throw Failure(FailureNumber(errno, name), name);
+    if (descriptor < 0) throw Failure(FailureNumberOf(errno, name), name);
     auto file = std::make_unique<PosixFile>(name, descriptor);
     if (file->IsFolder()) throw Failure(FailureKind::fileAccess, name);
     return file;

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/posix/LockedFileUpdate.h"
 #include "platform/posix/RegistryText.h"
-#include "platform/posix/ReplacedFile.h"
 
 namespace wxbrg {
 

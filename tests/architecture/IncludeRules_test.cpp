@@ -111,7 +111,7 @@ TEST(IncludeRules, OnlySourcesOfImplementationsKnowTheLanguageLibraries) {
     EXPECT_THAT(Check("platform/posix/Languages.cpp", "lang/LanguageLibraryAbi.h"), IsEmpty());
     EXPECT_THAT(Check("platform/posix/Languages.h", "lang/LanguageLibraryAbi.h"), testing::SizeIs(1));
     EXPECT_THAT(Check("platform/LanguageLibrary.cpp", "lang/LanguageLibraryAbi.h"), testing::SizeIs(1));
-    EXPECT_THAT(Check("options/modUtilities_language.cpp", "lang/LanguageLibraryAbi.h"), testing::SizeIs(1));
+    EXPECT_THAT(Check("options/MessageTexts.cpp", "lang/LanguageLibraryAbi.h"), testing::SizeIs(1));
 }
 
 TEST(IncludeRules, AngleBracketsHideNoRoom) {

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "data/StructureIndex.h"
-#include "mapping/modMappingRule_rules.h"
-#include "options/ExportOptions.h"
-#include "options/modUtilities_language.h"
+#include "mapping/RuleTable.h"
+#include "options/MessageTexts.h"
+#include "options/OptionTable.h"
 #include "run/clsARIS_Interface.h"
 #include "run/clsExceptionHandler.h"
 #include "run/clsIOHandler.h"

@@ -1,4 +1,5 @@
 #include "cli/Dispatch.h"
+#include "cli/NearestWord.h"
 
 #include <gmock/gmock.h>
 

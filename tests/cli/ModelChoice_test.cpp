@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "cli/OpenedRepository.h"
+#include "cli/OpenRepository.h"
 #include "cli/UsageError.h"
 #include "tests/cli/FakeCatalogue.h"
 

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "cli/UsageError.h"
-#include "options/ExportOptions.h"
-#include "tests/cli/TestSurroundings.h"
+#include "options/OptionTable.h"
+#include "tests/cli/TestToolEnvironment.h"
 
 namespace wxbrg::cli {
 namespace {
@@ -14,12 +14,12 @@ using testing::HasSubstr;
 class OptionsCommandTest : public testing::Test {
   protected:
     int Run(OptionsAction action, const std::string& name = "", const std::string& value = "") {
-        return RunOptionsCommand({action, name, value}, system.surroundings);
+        return RunOptionsCommand({action, name, value}, system.environment);
     }
     ProfileValue Stored(std::string_view name) const {
         return system.profileStore.Read(ProfileScope::user, programKey, name);
     }
-    TestSurroundings system;
+    TestToolEnvironment system;
 };
 
 TEST_F(OptionsCommandTest, ListTellsValueAndOriginOfEachOption) {
@@ -97,10 +97,10 @@ class ReadOnlyStore : public MemoryProfileStore {
 
 TEST(OptionsCommand, AStoreThatCannotBeWrittenIsAFailure) {
     ReadOnlyStore store;
-    TestSurroundings system(store);
-    EXPECT_EQ(RunOptionsCommand({OptionsAction::set, "ConvertNames", "0"}, system.surroundings), 1);
+    TestToolEnvironment system(store);
+    EXPECT_EQ(RunOptionsCommand({OptionsAction::set, "ConvertNames", "0"}, system.environment), 1);
     EXPECT_THAT(system.err.str(), HasSubstr("ConvertNames could not be stored"));
-    EXPECT_EQ(RunOptionsCommand({OptionsAction::reset, "Language", ""}, system.surroundings), 1);
+    EXPECT_EQ(RunOptionsCommand({OptionsAction::reset, "Language", ""}, system.environment), 1);
     EXPECT_THAT(system.err.str(), HasSubstr("Language could not be taken away"));
 }
 

@@ -1,4 +1,4 @@
-#include "platform/terminal/TerminalFileDialog.h"
+#include "platform/terminal/lines/TerminalFileDialog.h"
 
 #include <gmock/gmock.h>
 

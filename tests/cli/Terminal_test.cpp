@@ -1,12 +1,12 @@
-#include "platform/terminal/Terminal.h"
+#include "platform/terminal/lines/Terminal.h"
 
 #include <gmock/gmock.h>
 
 #include <chrono>
 #include <sstream>
 
-#include "platform/terminal/TerminalMessageBox.h"
-#include "platform/terminal/TerminalProgress.h"
+#include "platform/terminal/lines/TerminalMessageBox.h"
+#include "platform/terminal/lines/TerminalProgress.h"
 
 namespace wxbrg {
 namespace {

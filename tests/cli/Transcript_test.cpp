@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "cli/UnattendedDialogs.h"
+#include "cli/BatchDialogs.h"
 #include "platform/scripted/NoProgress.h"
 
 namespace wxbrg::cli {

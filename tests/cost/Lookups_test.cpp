@@ -7,7 +7,7 @@
 #include <string>
 
 #include "mapping/ArisTypes.h"
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"
 #include "tests/bench/Shapes.h"

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "data/RelatedObjects.h"
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

@@ -1,4 +1,4 @@
-#include "platform/terminal/TerminalHelpViewer.h"
+#include "platform/terminal/lines/TerminalHelpViewer.h"
 
 #include <gmock/gmock.h>
 

@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleLookups.h"
+#include "mapping/RuleTable.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

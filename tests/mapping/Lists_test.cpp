@@ -1,4 +1,4 @@
-#include "mapping/modUtilities_lists.h"
+#include "mapping/StringLists.h"
 
 #include <gmock/gmock.h>
 

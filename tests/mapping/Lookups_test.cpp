@@ -1,6 +1,6 @@
 // Finding objects in models, attributes, and whether an object conforms.
 
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 
 #include <gmock/gmock.h>
 

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "mapping/modMappingRule_names.h"
+#include "mapping/NameConversion.h"
 #include "support/Text.h"
 #include "tests/fixture/CoreTest.h"
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <random>
 
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 #include "mapping/modPath.h"
 #include "support/Text.h"
 #include "tests/fixture/CoreTest.h"

@@ -2,11 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_names.h"
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/NameConversion.h"
+#include "mapping/RuleLookups.h"
+#include "mapping/RuleTable.h"
+#include "mapping/StringLists.h"
 #include "mapping/modPath.h"
-#include "mapping/modUtilities_lists.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

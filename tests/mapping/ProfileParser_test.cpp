@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleLookups.h"
+#include "mapping/RuleTable.h"
 #include "support/Text.h"
 #include "tests/mapping/ProfileFixture.h"
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "mapping/ProfileCheck.h"
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleTable.h"
 #include "tests/mapping/ProfileFixture.h"
 #include "tests/mapping/RandomProfile.h"
 

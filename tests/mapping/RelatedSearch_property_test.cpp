@@ -6,7 +6,7 @@
 #include <random>
 #include <utility>
 
-#include "mapping/modMappingRule_lookups.h"
+#include "mapping/RuleLookups.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <random>
 
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_rules.h"
+#include "mapping/RuleLookups.h"
+#include "mapping/RuleTable.h"
 #include "mapping/modPath.h"
 #include "tests/fixture/CoreTest.h"
 

@@ -6,8 +6,8 @@
 #include <map>
 #include <random>
 
-#include "mapping/modMappingRule_lookups.h"
-#include "mapping/modMappingRule_names.h"
+#include "mapping/NameConversion.h"
+#include "mapping/RuleLookups.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsCONTROL_CONNECTOR.h"
 #include "model/clsPROCESS.h"

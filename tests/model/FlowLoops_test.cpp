@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "mapping/modUtilities_lists.h"
+#include "mapping/StringLists.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

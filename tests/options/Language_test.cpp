@@ -4,7 +4,8 @@
 
 #include <string>
 
-#include "options/modUtilities_language.h"
+#include "options/MessageTexts.h"
+#include "run/LogNotes.h"
 #include "run/modGlobals.h"
 #include "tests/run/RunFixture.h"
 

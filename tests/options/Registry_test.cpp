@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "options/modUtilities_registry.h"
+#include "options/StoredValues.h"
 #include "run/modGlobals.h"
 #include "tests/run/RunFixture.h"
 

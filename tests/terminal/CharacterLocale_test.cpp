@@ -1,4 +1,4 @@
-#include "platform/terminal/CharacterLocale.h"
+#include "platform/terminal/lines/CharacterLocale.h"
 
 #include <gtest/gtest.h>
 #include <langinfo.h>

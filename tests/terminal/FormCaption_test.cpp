@@ -1,4 +1,4 @@
-#include "platform/terminal/FormCaption.h"
+#include "platform/terminal/form/FormCaption.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/terminal/ResizeSignal.h"
+#include "platform/terminal/form/ResizeSignal.h"
 
 #include <gtest/gtest.h>
 #include <poll.h>

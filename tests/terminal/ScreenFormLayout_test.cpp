@@ -1,4 +1,4 @@
-#include "platform/terminal/ScreenFormLayout.h"
+#include "platform/terminal/form/ScreenFormLayout.h"
 
 #include <gmock/gmock.h>
 

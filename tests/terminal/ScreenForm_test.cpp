@@ -1,4 +1,4 @@
-#include "platform/terminal/ScreenForm.h"
+#include "platform/terminal/form/ScreenForm.h"
 
 #include <gmock/gmock.h>
 

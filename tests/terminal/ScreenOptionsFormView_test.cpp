@@ -1,4 +1,4 @@
-#include "platform/terminal/ScreenOptionsFormView.h"
+#include "platform/terminal/form/ScreenOptionsFormView.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "platform/terminal/ScreenText.h"
+#include "platform/terminal/form/ScreenText.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "platform/terminal/TerminalOptionsFormView.h"
+#include "platform/terminal/lines/TerminalOptionsFormView.h"
 
 #include <gmock/gmock.h>
 

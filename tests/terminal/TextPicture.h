@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/terminal/Screen.h"
+#include "platform/terminal/form/Screen.h"
 
 namespace wxbrg {
 

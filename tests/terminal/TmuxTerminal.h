@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/terminal/Screen.h"
+#include "platform/terminal/form/Screen.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/cli/Process.h"
 

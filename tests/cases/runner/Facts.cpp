@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "mapping/DefaultMappingRules.h"
-#include "options/ExportOptions.h"
+#include "options/OptionTable.h"
 #include "platform/scripted/ScriptLines.h"
 #include "support/Text.h"
 #include "tests/cases/runner/Case.h"

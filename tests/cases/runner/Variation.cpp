@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "mapping/ProfileText.h"
-#include "options/ExportOptions.h"
+#include "options/OptionTable.h"
 #include "platform/scripted/ScriptLines.h"
 #include "tests/TemporaryFolder.h"
 

@@ -12,8 +12,8 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "options/MessageTexts.h"
 #include "options/frmExportOptions.h"
-#include "options/modUtilities_language.h"
 #include "platform/posix/DlLanguageLibraries.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/ProgramLocation.h"

@@ -1,0 +1,50 @@
+#include "cli/InteractiveRun.h"
+
+#include "cli/OpenRepository.h"
+#include "cli/RunOutcome.h"
+#include "options/OptionTable.h"
+#include "options/StoredValues.h"
+#include "run/RunExport.h"
+
+namespace wxbrg::cli {
+
+namespace {
+
+/// Empty for the working directory.
+std::string RepositoryFolder(const ProfileStore& store) {
+    const ProfileValue stored = GetProfileValue(store, programKey, repositoryPathValue);
+    const auto* folder = std::get_if<std::string>(&stored);
+    return folder == nullptr ? std::string() : *folder;
+}
+
+}  // namespace
+
+int RunInteractively(const std::string& commandLine, const ToolEnvironment& environment) {
+    RunRequest request;
+    request.commandLine = commandLine;
+    const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
+    const std::unique_ptr<Progress> progress = environment.progress();
+    const Dialogs dialogs = environment.dialogs();
+    const std::unique_ptr<aris::Automation> automation = environment.folderAutomation(
+        RepositoryFolder(environment.profileStore), TellingOf(*progress, "the database"));
+    Platform platform{.profileStore = environment.profileStore,
+                      .languageLibraries = environment.languageLibraries,
+                      .codePage = *codePage,
+                      .clock = environment.clock,
+                      .userLocale = environment.userLocale,
+                      .fileSystem = environment.fileSystem,
+                      .messageBox = *dialogs.messageBox,
+                      .fileDialog = *dialogs.fileDialog,
+                      .optionsFormView = *dialogs.optionsFormView,
+                      .helpViewer = *dialogs.helpViewer,
+                      .progress = *progress,
+                      .programDirectory = environment.programDirectory,
+                      .programName = environment.programName};
+    const RunReport report = RunExport(request, platform, *automation);
+    progress->Report({}, 0, 0);
+    TellProgramFailure(report, environment.err);
+    TellLostCharacters(*codePage, environment.err);
+    return ExitStatusOf(report, false);
+}
+
+}  // namespace wxbrg::cli

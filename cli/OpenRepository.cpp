@@ -1,0 +1,48 @@
+#include "cli/OpenRepository.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "cli/UsageError.h"
+
+namespace wxbrg::cli {
+
+aris::LoadProgress TellingOf(Progress& progress, const std::string& repository) {
+    return [&progress, stage = "reading " + repository](std::uint64_t done, std::uint64_t total) {
+        progress.Report(stage, done, total);
+    };
+}
+
+OpenedRepository OpenRepository(const RepositoryArguments& given, const ToolEnvironment& environment,
+                                Progress& progress) {
+    aris::RepositoryRequest request;
+    request.file = given.file;
+    request.typesFile = given.typesFile;
+    request.progress = TellingOf(progress, given.file);
+    OpenedRepository opened;
+    opened.catalogue = environment.openRepository(request);
+    opened.locale = ChooseLocale(*opened.catalogue, given.locale);
+    return opened;
+}
+
+std::int32_t ChooseLocale(const aris::Catalogue& catalogue, std::optional<std::int32_t> wanted) {
+    const std::vector<aris::Locale>& locales = catalogue.Locales();
+    if (locales.empty()) {
+        if (wanted) return *wanted;
+        throw UsageError("The export names no language; give its number with --locale.");
+    }
+    if (!wanted) return locales.front().number;
+    const auto isWanted = [&](const aris::Locale& locale) {
+        return locale.number == *wanted;
+    };
+    if (std::any_of(locales.begin(), locales.end(), isWanted)) return *wanted;
+    std::string message = "The export holds no language " + std::to_string(*wanted) + ". It holds:";
+    for (const aris::Locale& locale : locales) {
+        message += "\n  " + std::to_string(locale.number);
+        if (!locale.name.empty()) message += "  " + locale.name;
+    }
+    throw UsageError(message);
+}
+
+}  // namespace wxbrg::cli

@@ -1,0 +1,124 @@
+// The search along a connection rule and its chains.
+
+#include <algorithm>
+#include <map>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+#include "mapping/RuleLookups.h"
+#include "mapping/RuleTable.h"
+#include "run/Frame.h"
+#include "run/modGlobals.h"
+
+namespace wxbrg {
+
+namespace {
+
+/// One search. Told plainly, it goes down every chain again and again, which takes exponential time where
+/// chains part and meet. What a second visit of an object under the same rule can add is nothing but the
+/// failure of nesting too deep, so each visit keeps how deep it went, and a second one only compares.
+class RelatedSearch {
+  public:
+    RelatedSearch(Frame& frame, Collection<ARISObjDef>& result) : frame_(frame), result_(result) {}
+
+    /// Adds what the rule leads to from the item. Returns how many levels of nesting that took, at least 1.
+    std::int32_t Visit(const ARISObjDef& item, std::string_view ruleName) {
+        const Key key(item->Guid(), ruleName);
+        const auto [visit, isFirst] = levels_.try_emplace(key, underWay);
+        if (!isFirst) {
+            if (IsTooDeep(visit->second)) FailWhereTooDeep(item, ruleName);
+            return visit->second;
+        }
+        const std::int32_t levels = Search(item, ruleName);
+        levels_[key] = levels;
+        return levels;
+    }
+
+  private:
+    using Key = std::pair<std::string_view, std::string_view>;  ///< Guid of the object, name of the rule
+    static constexpr std::int32_t underWay = 0;
+
+    std::int32_t Search(const ARISObjDef& item, std::string_view ruleName) {
+        if (gRelatedSearchDepth >= relatedSearchLimit) Fail(item);
+        ++gRelatedSearchDepth;
+        std::int32_t levels = 1;
+        if (item->OccList().Count() > 0) {
+            const Ref<const clsMappingRule> rule = FetchRule(frame_, ruleName);
+            for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
+                if (item->TypeNum() != mapping.SourceObjTypeNum) continue;
+                if (!mapping.IsChainedConnection())
+                    Step(result_, item, mapping);
+                else
+                    for (const ARISObjDef& next : Intermediates(item, mapping))
+                        levels = std::max(levels, 1 + Visit(next, mapping.TargetObjRule));
+            }
+        }
+        --gRelatedSearchDepth;
+        return levels;
+    }
+
+    static void Step(Collection<ARISObjDef>& into, const ARISObjDef& item,
+                     const clsConnectionMapping& mapping) {
+        Find_Related_ARIS_ObjDef(into, item, mapping.CnxKind, mapping.CnxTypeNum, mapping.TargetObjTypeNum);
+    }
+
+    /// The drawn objects that a chained step leads to.
+    static Collection<ARISObjDef> Intermediates(const ARISObjDef& item, const clsConnectionMapping& mapping) {
+        Collection<ARISObjDef> steps;
+        Step(steps, item, mapping);
+        Collection<ARISObjDef> drawn;
+        for (const ARISObjDef& next : steps)
+            if (next->OccList().Count() > 0) drawn.Add(next);
+        return drawn;
+    }
+
+    /// Whether a visit at the present depth would go beyond the limit: one that is still under way turns in a
+    /// circle.
+    static bool IsTooDeep(std::int32_t levels) {
+        return levels == underWay || gRelatedSearchDepth + levels > relatedSearchLimit;
+    }
+
+    /// Goes down, in the order of the search, to the object at which the limit is met.
+    [[noreturn]] void FailWhereTooDeep(ARISObjDef item, std::string_view ruleName) {
+        while (gRelatedSearchDepth < relatedSearchLimit) {
+            ++gRelatedSearchDepth;
+            std::tie(item, ruleName) = FirstTooDeepBehind(item, ruleName);
+        }
+        Fail(item);
+    }
+
+    std::pair<ARISObjDef, std::string_view> FirstTooDeepBehind(const ARISObjDef& item,
+                                                               std::string_view ruleName) {
+        const Ref<const clsMappingRule> rule = FetchRule(frame_, ruleName);
+        for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
+            if (item->TypeNum() != mapping.SourceObjTypeNum || !mapping.IsChainedConnection()) continue;
+            for (const ARISObjDef& next : Intermediates(item, mapping))
+                if (IsTooDeep(levels_.at(Key(next->Guid(), mapping.TargetObjRule))))
+                    return {next, mapping.TargetObjRule};
+        }
+        throw Failure(FailureKind::invalidCall);
+    }
+
+    [[noreturn]] void Fail(const ARISObjDef& item) {
+        frame_.Raise(2230, item->Name(gLocale), item->Type());
+        throw Failure(FailureKind::invalidCall);
+    }
+
+    Frame& frame_;
+    Collection<ARISObjDef>& result_;
+    std::map<Key, std::int32_t> levels_;
+};
+
+}  // namespace
+
+Collection<ARISObjDef>& Find_Related_ARIS_ObjDef_Using_Mapping_Rule(Collection<ARISObjDef>& result,
+                                                                    const ARISObjDef& item,
+                                                                    std::string_view ruleName) {
+    Procedure("modMappingRule.Find_Related_ARIS_ObjDef_Using_Mapping_Rule", [&](Frame& frame) {
+        RelatedSearch(frame, result).Visit(item, ruleName);
+    });
+    return result;
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,59 @@
+#include "mapping/RuleTable.h"
+
+#include <string>
+
+#include "mapping/DefaultMappingRules.h"
+#include "run/modGlobals.h"
+#include "support/Numbers.h"
+
+namespace wxbrg {
+
+namespace {
+
+void AddRow(clsMappingRule& rule, const defaultRules::TypeRow& row) {
+    rule.ColObjectMapping.Add(clsObjectMapping{row.type});
+}
+void AddRow(clsMappingRule& rule, const defaultRules::AttributeRow& row) {
+    rule.AttributeMapping = std::to_string(row.attribute);
+}
+void AddRow(clsMappingRule& rule, const defaultRules::StepRow& row) {
+    rule.ColConnectionMapping.Add(
+        clsConnectionMapping{row.kind, row.connection, row.source, row.target, std::string(row.continues)});
+}
+
+template <class Rows>
+void CreateRules(Frame& frame, const Rows& rows) {
+    for (std::size_t i = 0; i < rows.size();) {
+        const Ref<clsMappingRule> rule = gPool.Create<clsMappingRule>();
+        rule->Name = rows[i].rule;
+        for (; i < rows.size() && rows[i].rule == rule->Name; ++i) AddRow(*rule, rows[i]);
+        if (!gColMappingRule.AddNew(rule, rule->Name)) frame.Raise(2110, rule->Name);
+    }
+}
+
+}  // namespace
+
+void CreateDefaultMappingRules() {
+    Procedure("modMappingRule.CreateDefaultMappingRules", [&](Frame& frame) {
+        CreateRules(frame, defaultRules::types);
+        CreateRules(frame, defaultRules::attributes);
+        CreateRules(frame, defaultRules::steps);
+    });
+}
+
+Ref<const clsMappingRule> FetchRule(Frame& frame, std::string_view ruleName) {
+    gFailureContext = "Retrieve rule";
+    if (const Ref<clsMappingRule>* rule = gColMappingRule.Find(ruleName)) {
+        gFailureContext = "";
+        return rule->Get();
+    }
+    gFailureContext = "failed";
+    frame.Raise(2100, ruleName);
+    return nullptr;
+}
+
+std::int32_t AttributeNumber(const clsMappingRule& rule) {
+    return ToInt32(rule.AttributeMapping, DecimalSeparator());
+}
+
+}  // namespace wxbrg

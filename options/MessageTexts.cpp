@@ -1,0 +1,71 @@
+#include "options/MessageTexts.h"
+
+#include <variant>
+
+#include "options/OptionTable.h"
+#include "options/StoredValues.h"
+#include "run/clsExceptionHandler.h"
+#include "run/clsIOHandler.h"
+#include "run/modGlobals.h"
+#include "support/Text.h"
+
+namespace wxbrg {
+
+namespace {
+
+/// What the buffer for a text holds, its terminating zero included.
+constexpr std::size_t textCapacity = 4096;
+
+std::string TagOf(const ProfileValue& stored) {
+    std::string tag;
+    if (const auto* text = std::get_if<std::string>(&stored)) tag = *text;
+    if (const auto* number = std::get_if<std::int32_t>(&stored)) tag = std::to_string(*number);
+    return tag.empty() ? std::string(defaultLanguage) : tag;
+}
+
+}  // namespace
+
+std::string StoredLanguage(const ProfileStore& store) {
+    return TagOf(GetProfileValue(store, programKey, languageValue));
+}
+
+bool LoadLocalizedResources() {
+    return Procedure("modUtilities.LoadLocalizedResources", [&](Frame&) {
+        const std::string stem = "wxbrg" + TagOf(GetProfileValue(programKey, languageValue));
+        const std::string fileName = stem + ".dll";
+        gResourceLibrary = gPlatform->languageLibraries.Load(fileName);
+        const bool loaded = gResourceLibrary != nullptr;
+        if (!loaded)
+            clsExceptionHandler::ShowMessageBox(
+                "The Language Resource file '" + fileName + "' could not be found.",
+                BoxStyle::ok + Severity::critical + BoxStyle::foreground);
+        gHelpFile = stem + ".hlp";
+        return loaded;
+    });
+}
+
+std::string GetStringFromResourceFile(std::int32_t ID) {
+    if (gResourceLibrary == nullptr) return {};
+    std::string text = gResourceLibrary->LoadString(static_cast<std::uint32_t>(ID), textCapacity);
+    if (text.empty()) text = "Error :\r\nThe Resource ID '" + std::to_string(ID) + "' was not found";
+    return text;
+}
+
+std::string GetNLSString(std::int32_t ID, std::string_view S1, std::string_view S2, std::string_view S3,
+                         std::string_view S4) {
+    std::string text = GetStringFromResourceFile(ID);
+    if (S1.empty()) return text;
+    text = Replace(text, "%1$s", S1);
+    if (S2.empty()) return text;
+    text = Replace(text, "%2$s", S2);
+    if (S3.empty()) return text;
+    text = Replace(text, "%3$s", S3);
+    if (S4.empty()) return text;
+    return Replace(text, "%4$s", S4);
+}
+
+std::string Get_NLS_String_Message(std::int32_t ID) {
+    return GetNLSString(ID);
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,30 @@
+#include "options/StoredValues.h"
+
+#include "run/Frame.h"
+#include "run/modGlobals.h"
+
+namespace wxbrg {
+
+ProfileValue GetProfileValue(const ProfileStore& store, std::string_view Key, std::string_view ValueName) {
+    ProfileValue value = store.Read(ProfileScope::user, Key, ValueName);
+    if (std::holds_alternative<std::monostate>(value))
+        value = store.Read(ProfileScope::machine, Key, ValueName);
+    return value;
+}
+
+ProfileValue GetProfileValue(std::string_view Key, std::string_view ValueName) {
+    return Procedure("modUtilities.GetProfileValue", [&](Frame&) {
+        return GetProfileValue(gPlatform->profileStore, Key, ValueName);
+    });
+}
+
+void SetProfileValue(std::string_view Key, std::string_view ValueName, const ProfileValue& Value,
+                     ProfileType Type) {
+    Procedure("modUtilities.SetProfileValue", [&](Frame&) {
+        const bool text = Type == ProfileType::text && std::holds_alternative<std::string>(Value);
+        const bool number = Type == ProfileType::number && std::holds_alternative<std::int32_t>(Value);
+        if (text || number) gPlatform->profileStore.Write(Key, ValueName, Value);
+    });
+}
+
+}  // namespace wxbrg

@@ -1,0 +1,24 @@
+#include "platform/terminal/lines/TerminalMessageBox.h"
+
+#include "support/Text.h"
+
+namespace wxbrg {
+
+BoxAnswer TerminalMessageBox::Show(std::string_view title, std::string_view text, std::int32_t buttons) {
+    terminal_.Tell("");
+    terminal_.Tell("--- " + std::string(title));
+    terminal_.Tell(text);
+    switch (buttons & BoxStyle::buttonSet) {
+        case BoxStyle::yesNo:
+            return terminal_.AskYesOrNo("Yes or no?").value_or(true) ? BoxAnswer::yes : BoxAnswer::no;
+        case BoxStyle::okCancel: {
+            const std::string answer = terminal_.Ask("Enter: OK, c: Cancel ").value_or("");
+            return UpperCase(Left(answer, 1)) == "C" ? BoxAnswer::cancel : BoxAnswer::ok;
+        }
+        default:
+            terminal_.Ask("Enter: OK ");
+            return BoxAnswer::ok;
+    }
+}
+
+}  // namespace wxbrg
