@@ -52,7 +52,7 @@ std::string Signature(std::vector<std::string_view> guids) {
 
 Ref<clsDATA_STRUCTURE> StructureIndex::FindByWalk(const Collection<ARISObjDef>& members,
                                                   const ARISObjDef& object) {
-    for (const Ref<clsDATA_STRUCTURE>& structure : gColDATA_STRUCTURE) {
+    for (const Ref<clsDATA_STRUCTURE>& structure : gBlock.gColDATA_STRUCTURE) {
         if (object && !structure->IsGenerated && structure->ARISObjectDefinition->Guid() != object->Guid())
             return nullptr;
         if (HasTheseMembers(*structure, members)) return structure;
@@ -61,8 +61,8 @@ Ref<clsDATA_STRUCTURE> StructureIndex::FindByWalk(const Collection<ARISObjDef>& 
 }
 
 void StructureIndex::ReadRegistry() {
-    while (read_ < gColDATA_STRUCTURE.Count()) {
-        const Ref<clsDATA_STRUCTURE> structure = gColDATA_STRUCTURE.Item(++read_);
+    while (read_ < gBlock.gColDATA_STRUCTURE.Count()) {
+        const Ref<clsDATA_STRUCTURE> structure = gBlock.gColDATA_STRUCTURE.Item(++read_);
         positionOf_.emplace(structure.Get(), read_);
         if (structure->IsGenerated || secondMapped_ != 0) continue;
         (firstMapped_ == 0 ? firstMapped_ : secondMapped_) = read_;
@@ -91,7 +91,7 @@ std::int32_t StructureIndex::FirstMappedOther(const ARISObjDef& object) {
     constexpr std::int32_t beyond = std::numeric_limits<std::int32_t>::max();
     for (const std::int32_t position : {firstMapped_, secondMapped_}) {
         if (position == 0) return beyond;
-        if (gColDATA_STRUCTURE.Item(position)->ARISObjectDefinition->Guid() != object->Guid())
+        if (gBlock.gColDATA_STRUCTURE.Item(position)->ARISObjectDefinition->Guid() != object->Guid())
             return position;
     }
     return beyond;
@@ -105,7 +105,7 @@ Ref<clsDATA_STRUCTURE> StructureIndex::Find(const Collection<ARISObjDef>& member
     const auto found = positionByMembers_.find(Signature(std::move(guids)));
     if (found == positionByMembers_.end()) return nullptr;
     if (object && FirstMappedOther(object) <= found->second) return nullptr;
-    return gColDATA_STRUCTURE.Item(found->second);
+    return gBlock.gColDATA_STRUCTURE.Item(found->second);
 }
 
 }  // namespace wxbrg

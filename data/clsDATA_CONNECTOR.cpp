@@ -22,7 +22,7 @@ std::string MapLine(std::string_view from, std::string_view to) {
 
 /// The member of a structure that stands for an object; null where it has none.
 const Ref<clsDATA_MEMBER>* MemberFor(const clsDATA_STRUCTURE& structure, const ARISObjDef& object) {
-    gFailureContext = "Retrieve collection member";
+    gBlock.gFailureContext = "Retrieve collection member";
     return structure.ColDATA_MEMBER.Find(object->Guid());
 }
 
@@ -95,7 +95,7 @@ void clsDATA_CONNECTOR::SetupProperty_Mapping(const Ref<clsDATA_STRUCTURE>& Stru
             ColMapping.Add(MapLine(wholeStructure, wholeStructure));
         else
             AddMapping(*source, *sink);
-        gFailureContext = "";
+        gBlock.gFailureContext = "";
     });
 }
 
@@ -116,7 +116,7 @@ void clsDATA_CONNECTOR::AddMapping(const clsDATA_STRUCTURE& source, const clsDAT
 void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
     Procedure("clsDATA_CONNECTOR.SetupProperty_LAYOUT", [&](Frame& frame) {
         if (ConnectorKind == ConnectorKind::activityToActivity) {
-            if (gOptUseDataConBendPoints)
+            if (gBlock.gOptUseDataConBendPoints)
                 AddBendPoint(frame, LAYOUT, ColPath, ConnectorPathsAvailable, FROM_ARISObjectDefinition,
                              TO_ARISObjectDefinition, *PROCESS);
         } else if (ConnectorKind == ConnectorKind::processInput && !Name.empty()) {
@@ -129,7 +129,7 @@ void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
 
 void clsDATA_CONNECTOR::SetupProperty_DESCRIPTION() {
     Procedure("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
-        if (ConnectorKind != ConnectorKind::activityToActivity || !gOptUseDescriptionAttr) return;
+        if (ConnectorKind != ConnectorKind::activityToActivity || !gBlock.gOptUseDescriptionAttr) return;
         if (!ConnectorPathsAvailable) {
             frame.Raise(2090);
             return;

@@ -35,8 +35,10 @@ void clsDATA_MEMBER::SetupProperty_DataType() {
             DataType = MemberName;
             return;
         }
-        std::string text = GetProperty_DataType(gOptDataTypeFromAttribute ? attributeRule : domainRule);
-        if (text.empty()) text = GetProperty_DataType(gOptDataTypeFromAttribute ? domainRule : attributeRule);
+        std::string text =
+            GetProperty_DataType(gBlock.gOptDataTypeFromAttribute ? attributeRule : domainRule);
+        if (text.empty())
+            text = GetProperty_DataType(gBlock.gOptDataTypeFromAttribute ? domainRule : attributeRule);
         if (!text.empty()) DataType = ConvertARISName(text, NameKind::dataType, "");
     });
 }
@@ -58,7 +60,7 @@ std::string clsDATA_MEMBER::GetProperty_DataType(std::string_view RuleName) {
 
 void clsDATA_MEMBER::SetupProperty_SizeOfArray() {
     Procedure("clsDATA_MEMBER.SetupProperty_SizeOfArray", [&](Frame&) {
-        if (!gOptUseOtherSettings) return;
+        if (!gBlock.gOptUseOtherSettings) return;
         const std::string text =
             Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(ARISObjectDefinition, "DATA_MEMBER_SIZE_OF_ARRAY");
         if (IsNumeric(text, DecimalSeparator())) SizeOfArray = "(" + text + ")";
@@ -74,12 +76,12 @@ void clsDATA_MEMBER::SetupProperty_MemberSetting() {
 
 void clsDATA_MEMBER::SetupProperty_DESCRIPTION() {
     // This procedure bears the person's name.
-    SetupText("clsPERSON.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsPERSON.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, ARISObjectDefinition, "DATA_MEMBER_DESCRIPTION");
 }
 
 void clsDATA_MEMBER::SetupProperty_DOCUMENTATION() {
-    SetupText("clsDATA_MEMBER.SetupProperty_DOCUMENTATION", DOCUMENTATION, gOptUseDocumentationAttr,
+    SetupText("clsDATA_MEMBER.SetupProperty_DOCUMENTATION", DOCUMENTATION, gBlock.gOptUseDocumentationAttr,
               NameKind::documentation, ARISObjectDefinition, "DATA_MEMBER_DOCUMENTATION");
 }
 

@@ -36,13 +36,14 @@ void clsDATA_STRUCTURE::SetupProperty_StructureSetting() {
 
 void clsDATA_STRUCTURE::SetupProperty_DESCRIPTION() {
     // This procedure bears the person's name.
-    SetupText("clsPERSON.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr && !IsGenerated,
-              NameKind::description, ARISObjectDefinition, "DATA_STRUCTURE_DESCRIPTION");
+    SetupText("clsPERSON.SetupProperty_DESCRIPTION", DESCRIPTION,
+              gBlock.gOptUseDescriptionAttr && !IsGenerated, NameKind::description, ARISObjectDefinition,
+              "DATA_STRUCTURE_DESCRIPTION");
 }
 
 void clsDATA_STRUCTURE::SetupProperty_DOCUMENTATION() {
     SetupText("clsDATA_STRUCTURE.SetupProperty_DOCUMENTATION", DOCUMENTATION,
-              gOptUseDocumentationAttr && !IsGenerated, NameKind::documentation, ARISObjectDefinition,
+              gBlock.gOptUseDocumentationAttr && !IsGenerated, NameKind::documentation, ARISObjectDefinition,
               "DATA_STRUCTURE_DOCUMENTATION");
 }
 
@@ -56,7 +57,7 @@ void clsDATA_STRUCTURE::SetupProperty_MemberDeclarations() {
         }
         for (const ARISObjDef& object : objects)
             ColDATA_MEMBER.Add(DATA_MEMBER_Add_ARIS_Mapping(object), object->Guid());
-        gStructureIndex->AddFilled(*this);
+        gBlock.gStructureIndex->AddFilled(*this);
     });
 }
 

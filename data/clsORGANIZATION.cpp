@@ -22,7 +22,7 @@ void clsORGANIZATION::SetupProperty_ObjectName() {
 }
 
 void clsORGANIZATION::SetupProperty_DESCRIPTION() {
-    SetupText("clsORGANIZATION.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsORGANIZATION.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, ARISObjectDefinition, "ORGANIZATION_DESCRIPTION");
 }
 

@@ -50,7 +50,7 @@ void clsPERSON::SetupProperty_SECOND_PHONE() {
 }
 
 void clsPERSON::SetupProperty_DESCRIPTION() {
-    SetupText("clsPERSON.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsPERSON.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, ARISObjectDefinition, "PERSON_DESCRIPTION");
 }
 

@@ -27,7 +27,7 @@ void clsPROCESS_CATEGORY::SetupProperty_ProcessCategorySetting() {
 }
 
 void clsPROCESS_CATEGORY::SetupProperty_DESCRIPTION() {
-    SetupText("clsPROCESS_CATEGORY.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsPROCESS_CATEGORY.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, [&] {
                   return PROCESS_CATEGORY_Find_ARIS_Group_Attribute_Using_Mapping_Rule(
                       ARIS_Group, "PROCESS_CATEGORY_DESCRIPTION");
@@ -35,8 +35,8 @@ void clsPROCESS_CATEGORY::SetupProperty_DESCRIPTION() {
 }
 
 void clsPROCESS_CATEGORY::SetupProperty_DOCUMENTATION() {
-    SetupText("clsPROCESS_CATEGORY.SetupProperty_DOCUMENTATION", DOCUMENTATION, gOptUseDocumentationAttr,
-              NameKind::documentation, [&] {
+    SetupText("clsPROCESS_CATEGORY.SetupProperty_DOCUMENTATION", DOCUMENTATION,
+              gBlock.gOptUseDocumentationAttr, NameKind::documentation, [&] {
                   return PROCESS_CATEGORY_Find_ARIS_Group_Attribute_Using_Mapping_Rule(
                       ARIS_Group, "PROCESS_CATEGORY_DOCUMENTATION");
               });

@@ -6,7 +6,8 @@
 namespace wxbrg {
 
 clsPROGRAM::clsPROGRAM()
-    : InputContainer(gPool.Create<clsDATA_STRUCTURE>()), OutputContainer(gPool.Create<clsDATA_STRUCTURE>()) {}
+    : InputContainer(gBlock.gPool.Create<clsDATA_STRUCTURE>()),
+      OutputContainer(gBlock.gPool.Create<clsDATA_STRUCTURE>()) {}
 
 void clsPROGRAM::SetupProperties() {
     SetupOnce("clsPROGRAM.SetupProperties", SetupFinished, "PROGRAM", ObjectName, [&] {
@@ -31,12 +32,12 @@ void clsPROGRAM::SetupProperty_ProgramSetting() {
 }
 
 void clsPROGRAM::SetupProperty_DESCRIPTION() {
-    SetupText("clsPROGRAM.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsPROGRAM.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, ARISObjectDefinition, "PROGRAM_DESCRIPTION");
 }
 
 void clsPROGRAM::SetupProperty_DOCUMENTATION() {
-    SetupText("clsPROGRAM.SetupProperty_DOCUMENTATION", DOCUMENTATION, gOptUseDocumentationAttr,
+    SetupText("clsPROGRAM.SetupProperty_DOCUMENTATION", DOCUMENTATION, gBlock.gOptUseDocumentationAttr,
               NameKind::documentation, ARISObjectDefinition, "PROGRAM_DOCUMENTATION");
 }
 

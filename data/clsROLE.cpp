@@ -20,8 +20,8 @@ void clsROLE::SetupProperty_ObjectName() {
 }
 
 void clsROLE::SetupProperty_DESCRIPTION() {
-    SetupText("clsROLE.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr, NameKind::description,
-              ARISObjectDefinition, "ROLE_DESCRIPTION");
+    SetupText("clsROLE.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
+              NameKind::description, ARISObjectDefinition, "ROLE_DESCRIPTION");
 }
 
 void clsROLE::SetupProperty_COORDINATOR() {

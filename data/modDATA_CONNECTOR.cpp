@@ -21,10 +21,10 @@ constexpr BetweenActivities<clsDATA_CONNECTOR> dataFlow{
     &clsPROCESS::Col_DATA_CONNECTOR, &clsPROCESS::DataFlow, 3080};
 
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
-    const Ref<clsDATA_CONNECTOR> connector = gPool.Create<clsDATA_CONNECTOR>();
+    const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
     connector->ConnectorKind = ConnectorKind::activityToActivity;
     AddBetweenActivities(dataFlow, connector, process, from, to, [&] {
-        if (gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
+        if (gBlock.gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
             NoteConnector(Severity::exclamation, 3140, from, to);
     });
 }
@@ -77,7 +77,7 @@ void FindConnectorsAcross(const Boundary& boundary, clsPROCESS& process,
     for (const ARISObjDef& function : functions) {
         Collection<ARISObjDef> objects = CrossingObjects(process, function, boundary.rule, inside);
         if (objects.IsEmpty()) continue;
-        const Ref<clsDATA_CONNECTOR> connector = gPool.Create<clsDATA_CONNECTOR>();
+        const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
         connector->ConnectorKind = boundary.kind;
         (*connector).*boundary.end = function;
         connector->PROCESS = &process;

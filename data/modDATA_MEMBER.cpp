@@ -9,7 +9,7 @@ namespace wxbrg {
 Ref<clsDATA_MEMBER> DATA_MEMBER_Add_ARIS_Mapping(const ARISObjDef& item) {
     return AddARISMapping(
         {"modDATA_MEMBER.DATA_MEMBER_Add_ARIS_Mapping", "DATA_OBJECT", "DATA_MEMBER", "DATA_OBJECT"}, item,
-        gColDATA_MEMBER, [](clsDATA_MEMBER& member) {
+        gBlock.gColDATA_MEMBER, [](clsDATA_MEMBER& member) {
             const ARISObjDef& object = member.ARISObjectDefinition;
             if (!DATA_STRUCTURE_Is_DATA_STRUCTURE(object)) return;
             member.DATA_STRUCTURE = DATA_STRUCTURE_Add_ARIS_Mapping(object);

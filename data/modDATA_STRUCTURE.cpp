@@ -24,16 +24,16 @@ void DATA_STRUCTURE_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels
              Find_ARIS_ObjDef_Using_Mapping_Rule(ColARISModels, found, "DATA_OBJECT")) {
             const Collection<ARISObjDef> members = MembersOf(item);
             if (members.IsEmpty() || DATA_STRUCTURE_FindEquivalentStructure(members, item)) continue;
-            const Ref<clsDATA_STRUCTURE> structure = gPool.Create<clsDATA_STRUCTURE>();
+            const Ref<clsDATA_STRUCTURE> structure = gBlock.gPool.Create<clsDATA_STRUCTURE>();
             structure->ARISObjectDefinition = item;
-            gColDATA_STRUCTURE.AddNew(structure, item->Guid());
+            gBlock.gColDATA_STRUCTURE.AddNew(structure, item->Guid());
             NoteMapped(item, "DATA_STRUCTURE");
         }
     });
 }
 
 void DATA_STRUCTURE_SetupProperties() {
-    SetupBatch("modDATA_STRUCTURE.DATA_STRUCTURE_SetupProperties", gColDATA_STRUCTURE);
+    SetupBatch("modDATA_STRUCTURE.DATA_STRUCTURE_SetupProperties", gBlock.gColDATA_STRUCTURE);
 }
 
 void DATA_STRUCTURE_Create(const Collection<ARISModel>& ColARISModels) {
@@ -46,17 +46,17 @@ void DATA_STRUCTURE_Create(const Collection<ARISModel>& ColARISModels) {
 Ref<clsDATA_STRUCTURE> DATA_STRUCTURE_Add_ARIS_Mapping(const ARISObjDef& item) {
     return AddARISMapping(
         {"modDATA_STRUCTURE.DATA_STRUCTURE_Add_ARIS_Mapping", "DATA_OBJECT", "DATA_STRUCTURE", "DATA_OBJECT"},
-        item, gColDATA_STRUCTURE);
+        item, gBlock.gColDATA_STRUCTURE);
 }
 
 Ref<clsDATA_STRUCTURE> DATA_STRUCTURE_Generate(const Collection<ARISObjDef>& Members) {
     return Procedure("modDATA_STRUCTURE.DATA_STRUCTURE_Generate", [&](Frame&) {
         if (const Ref<clsDATA_STRUCTURE> equal = DATA_STRUCTURE_FindEquivalentStructure(Members, nullptr))
             return equal;
-        const Ref<clsDATA_STRUCTURE> structure = gPool.Create<clsDATA_STRUCTURE>();
+        const Ref<clsDATA_STRUCTURE> structure = gBlock.gPool.Create<clsDATA_STRUCTURE>();
         for (const ARISObjDef& member : Members) structure->ColARISDataMemberObjectDefinition.Add(member);
         structure->IsGenerated = true;
-        gColDATA_STRUCTURE.Add(structure);
+        gBlock.gColDATA_STRUCTURE.Add(structure);
         structure->SetupProperties();
         return structure;
     });
@@ -65,14 +65,14 @@ Ref<clsDATA_STRUCTURE> DATA_STRUCTURE_Generate(const Collection<ARISObjDef>& Mem
 Ref<clsDATA_STRUCTURE> DATA_STRUCTURE_FindEquivalentStructure(const Collection<ARISObjDef>& Members,
                                                               const ARISObjDef& ARISObject) {
     return Procedure("modDATA_STRUCTURE.DATA_STRUCTURE_FindEquivalentStructure", [&](Frame&) {
-        return gStructureIndex->Find(Members, ARISObject);
+        return gBlock.gStructureIndex->Find(Members, ARISObject);
     });
 }
 
 std::string DATA_STRUCTURE_GenerateName() {
     return Procedure("modDATA_STRUCTURE.DATA_STRUCTURE_GenerateName", [&](Frame&) {
-        std::string name = gDataStructureNamePrefix + std::to_string(gNextDataStructureSuffix);
-        gNextDataStructureSuffix = AddChecked(gNextDataStructureSuffix, 1);
+        std::string name = gBlock.gDataStructureNamePrefix + std::to_string(gBlock.gNextDataStructureSuffix);
+        gBlock.gNextDataStructureSuffix = AddChecked(gBlock.gNextDataStructureSuffix, 1);
         return name;
     });
 }

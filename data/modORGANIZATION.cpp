@@ -6,12 +6,12 @@
 namespace wxbrg {
 
 void ORGANIZATION_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modORGANIZATION.ORGANIZATION_Find_ARIS_Mapping", ColARISModels, gColORGANIZATION,
+    FindBatch("modORGANIZATION.ORGANIZATION_Find_ARIS_Mapping", ColARISModels, gBlock.gColORGANIZATION,
               "ORGANIZATION");
 }
 
 void ORGANIZATION_SetupProperties() {
-    SetupBatch("modORGANIZATION.ORGANIZATION_SetupProperties", gColORGANIZATION);
+    SetupBatch("modORGANIZATION.ORGANIZATION_SetupProperties", gBlock.gColORGANIZATION);
 }
 
 void ORGANIZATION_Create(const Collection<ARISModel>& ColARISModels) {
@@ -24,7 +24,7 @@ void ORGANIZATION_Create(const Collection<ARISModel>& ColARISModels) {
 Ref<clsORGANIZATION> ORGANIZATION_Add_ARIS_Mapping(const ARISObjDef& item) {
     return AddARISMapping(
         {"modORGANIZATION.ORGANIZATION_Add_ARIS_Mapping", "ORGANIZATION", "ORGANIZATION", "ORGANIZATION"},
-        item, gColORGANIZATION);
+        item, gBlock.gColORGANIZATION);
 }
 
 }  // namespace wxbrg

@@ -6,11 +6,11 @@
 namespace wxbrg {
 
 void PERSON_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modPERSON.PERSON_Find_ARIS_Mapping", ColARISModels, gColPERSON, "PERSON");
+    FindBatch("modPERSON.PERSON_Find_ARIS_Mapping", ColARISModels, gBlock.gColPERSON, "PERSON");
 }
 
 void PERSON_SetupProperties() {
-    SetupBatch("modPERSON.PERSON_SetupProperties", gColPERSON);
+    SetupBatch("modPERSON.PERSON_SetupProperties", gBlock.gColPERSON);
 }
 
 void PERSON_Create(const Collection<ARISModel>& ColARISModels) {
@@ -22,7 +22,7 @@ void PERSON_Create(const Collection<ARISModel>& ColARISModels) {
 
 Ref<clsPERSON> PERSON_Add_ARIS_Mapping(const ARISObjDef& item) {
     return AddARISMapping({"modPERSON.PERSON_Add_ARIS_Mapping", "PERSON", "PERSON", "PERSON"}, item,
-                          gColPERSON);
+                          gBlock.gColPERSON);
 }
 
 }  // namespace wxbrg

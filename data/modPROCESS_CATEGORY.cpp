@@ -8,16 +8,16 @@ namespace wxbrg {
 void PROCESS_CATEGORY_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
     Procedure("modPROCESS_CATEGORY.PROCESS_CATEGORY_Find_ARIS_Mapping", [&](Frame&) {
         for (const ARISGroup& group : PROCESS_CATEGORY_Find_ARIS_Group_In_ModelCollection(ColARISModels)) {
-            const Ref<clsPROCESS_CATEGORY> category = gPool.Create<clsPROCESS_CATEGORY>();
+            const Ref<clsPROCESS_CATEGORY> category = gBlock.gPool.Create<clsPROCESS_CATEGORY>();
             category->ARIS_Group = group;
-            gColPROCESS_CATEGORY.AddNew(category, group->Guid());
-            WriteNote(Severity::information, 3040, group->Name(gLocale));
+            gBlock.gColPROCESS_CATEGORY.AddNew(category, group->Guid());
+            WriteNote(Severity::information, 3040, group->Name(gBlock.gLocale));
         }
     });
 }
 
 void PROCESS_CATEGORY_SetupProperties() {
-    SetupBatch("modPROCESS_CATEGORY.PROCESS_CATEGORY_SetupProperties", gColPROCESS_CATEGORY);
+    SetupBatch("modPROCESS_CATEGORY.PROCESS_CATEGORY_SetupProperties", gBlock.gColPROCESS_CATEGORY);
 }
 
 void PROCESS_CATEGORY_Create(const Collection<ARISModel>& ColARISModels) {

@@ -6,11 +6,11 @@
 namespace wxbrg {
 
 void PROGRAM_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modPROGRAM.PROGRAM_Find_ARIS_Mapping", ColARISModels, gColPROGRAM, "PROGRAM");
+    FindBatch("modPROGRAM.PROGRAM_Find_ARIS_Mapping", ColARISModels, gBlock.gColPROGRAM, "PROGRAM");
 }
 
 void PROGRAM_SetupProperties() {
-    SetupBatch("modPROGRAM.PROGRAM_SetupProperties", gColPROGRAM);
+    SetupBatch("modPROGRAM.PROGRAM_SetupProperties", gBlock.gColPROGRAM);
 }
 
 void PROGRAM_Create(const Collection<ARISModel>& ColARISModels) {
@@ -22,7 +22,7 @@ void PROGRAM_Create(const Collection<ARISModel>& ColARISModels) {
 
 Ref<clsPROGRAM> PROGRAM_Add_ARIS_Mapping(const ARISObjDef& item) {
     return AddARISMapping({"modPROGRAM.PROGRAM_Add_ARIS_Mapping", "PROGRAM", "PROGRAM", "PROGRAM"}, item,
-                          gColPROGRAM);
+                          gBlock.gColPROGRAM);
 }
 
 }  // namespace wxbrg

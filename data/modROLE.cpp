@@ -6,11 +6,11 @@
 namespace wxbrg {
 
 void ROLE_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modROLE.ROLE_Find_ARIS_Mapping", ColARISModels, gColROLE, "ROLE");
+    FindBatch("modROLE.ROLE_Find_ARIS_Mapping", ColARISModels, gBlock.gColROLE, "ROLE");
 }
 
 void ROLE_SetupProperties() {
-    SetupBatch("modROLE.ROLE_SetupProperties", gColROLE);
+    SetupBatch("modROLE.ROLE_SetupProperties", gBlock.gColROLE);
 }
 
 void ROLE_Create(const Collection<ARISModel>& ColARISModels) {
@@ -21,7 +21,7 @@ void ROLE_Create(const Collection<ARISModel>& ColARISModels) {
 }
 
 Ref<clsROLE> ROLE_Add_ARIS_Mapping(const ARISObjDef& item) {
-    return AddARISMapping({"modROLE.ROLE_Add_ARIS_Mapping", "ROLE", "ROLE", "ROLE"}, item, gColROLE);
+    return AddARISMapping({"modROLE.ROLE_Add_ARIS_Mapping", "ROLE", "ROLE", "ROLE"}, item, gBlock.gColROLE);
 }
 
 }  // namespace wxbrg

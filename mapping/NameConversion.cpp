@@ -128,9 +128,9 @@ std::string ConvertByKind(std::string_view text, std::string_view kind, std::str
 /// The attribute of a rule that the caller has just read with success; 0 without a rule.
 std::int32_t AttributeOfRule(std::string_view ruleName) {
     if (ruleName.empty()) return 0;
-    gFailureContext = "Retrieve rule";
-    const Ref<clsMappingRule> rule = gColMappingRule.Item(ruleName);
-    gFailureContext = "";
+    gBlock.gFailureContext = "Retrieve rule";
+    const Ref<clsMappingRule> rule = gBlock.gColMappingRule.Item(ruleName);
+    gBlock.gFailureContext = "";
     return AttributeNumber(*rule);
 }
 
@@ -140,7 +140,7 @@ std::string ConvertARISName(std::string_view text, std::string_view kind, std::s
     const NamedScope scope("modMappingRule.ConvertARISName");
     const std::int32_t attribute = AttributeOfRule(ruleName);
     std::string converted(text);
-    if (gOptConvertNames) {
+    if (gBlock.gOptConvertNames) {
         converted = Trim(Replace(ConvertByKind(text, kind, ruleName, attribute), "'", "''"));
         if (converted != text) WriteNote(Severity::information, 3100, text, converted);
     }
@@ -153,7 +153,7 @@ std::string ConvertARISPersonName(const ARISObjDef& item) {
         constexpr std::string_view rule = "PERSON_PersonName";
         const std::string login = Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(item, rule);
         if (!login.empty()) return ConvertARISName(login, NameKind::personId, rule);
-        const std::string name = item->Name(gLocale);
+        const std::string name = item->Name(gBlock.gLocale);
         return name.empty() ? std::string() : ConvertARISName(name, NameKind::personId, "");
     });
 }

@@ -11,7 +11,7 @@ std::string MappingProfilePath(const Platform& platform) {
 
 ProfileFile ReadProfileFile(Platform& platform) {
     RenewGlobals();
-    gPlatform = &platform;
+    gBlock.gPlatform = &platform;
     clsIOHandler files;
     ProfileFile profile{MappingProfilePath(platform), files.ReadMappingProfile()};
     RenewGlobals();

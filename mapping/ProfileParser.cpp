@@ -38,7 +38,7 @@ class ProfileParser {
             case ProfileAction::none:
                 break;
             case ProfileAction::newRule:
-                rule_ = gPool.Create<clsMappingRule>();
+                rule_ = gBlock.gPool.Create<clsMappingRule>();
                 rule_->Name = token.TokenValue;
                 break;
             case ProfileAction::newObjectMapping:
@@ -55,7 +55,7 @@ class ProfileParser {
                 rule_->AttributeMapping = token.TokenValue;
                 break;
             case ProfileAction::addRuleUnguarded:
-                gColMappingRule.Add(rule_, rule_->Name);
+                gBlock.gColMappingRule.Add(rule_, rule_->Name);
                 break;
             case ProfileAction::newConnection:
                 connection_ = {};
@@ -92,9 +92,9 @@ class ProfileParser {
 
     /// A name that is taken brings the warning 2110, and the first rule stays.
     void AddRule() {
-        gFailureContext = "Add mapping rule";
-        if (!gColMappingRule.AddNew(rule_, rule_->Name)) frame_.Raise(2110, rule_->Name);
-        gFailureContext = "";
+        gBlock.gFailureContext = "Add mapping rule";
+        if (!gBlock.gColMappingRule.AddNew(rule_, rule_->Name)) frame_.Raise(2110, rule_->Name);
+        gBlock.gFailureContext = "";
     }
 
     Frame& frame_;
@@ -114,9 +114,9 @@ void clsIOHandler::ParseMappingFile() {
             CreateDefaultMappingRules();
             return;
         }
-        gColProfileTokens = TokenizeMappingProfile(text);
+        gBlock.gColProfileTokens = TokenizeMappingProfile(text);
         ProfileParser parser(frame);
-        for (const Ref<clsMappingRuleToken>& token : gColProfileTokens) parser.Take(*token);
+        for (const Ref<clsMappingRuleToken>& token : gBlock.gColProfileTokens) parser.Take(*token);
     });
 }
 

@@ -28,7 +28,7 @@ clsMappingRule RuleOf(const ProfileClause& clause) {
 RuleTable BuiltInRules() {
     RenewGlobals();
     CreateDefaultMappingRules();
-    RuleTable rules = RulesOf(gColMappingRule);
+    RuleTable rules = RulesOf(gBlock.gColMappingRule);
     RenewGlobals();
     return rules;
 }

@@ -36,7 +36,7 @@ class ProfileTokenizer {
     static constexpr std::u32string_view separators = U" \r\n\t=";
 
     void Add(std::int32_t type, std::string value) {
-        const Ref<clsMappingRuleToken> token = gPool.Create<clsMappingRuleToken>();
+        const Ref<clsMappingRuleToken> token = gBlock.gPool.Create<clsMappingRuleToken>();
         token->TokenType = type;
         token->TokenValue = std::move(value);
         tokens_.Add(token);
@@ -116,7 +116,7 @@ class ProfileTokenizer {
 
 std::string clsIOHandler::ReadMappingProfile() {
     return Procedure("clsIOHandler.ReadMappingProfile", [&](Frame&) {
-        const std::string path = MappingProfilePath(*gPlatform);
+        const std::string path = MappingProfilePath(*gBlock.gPlatform);
         MappingProfileFound = !path.empty() && FileExists(path);
         return MappingProfileFound ? ReadFile(path) : std::string();
     });

@@ -40,8 +40,8 @@ class RelatedSearch {
     static constexpr std::int32_t underWay = 0;
 
     std::int32_t Search(const ARISObjDef& item, std::string_view ruleName) {
-        if (gRelatedSearchDepth >= relatedSearchLimit) Fail(item);
-        ++gRelatedSearchDepth;
+        if (gBlock.gRelatedSearchDepth >= relatedSearchLimit) Fail(item);
+        ++gBlock.gRelatedSearchDepth;
         std::int32_t levels = 1;
         if (item->OccList().Count() > 0) {
             const Ref<const clsMappingRule> rule = FetchRule(frame_, ruleName);
@@ -54,7 +54,7 @@ class RelatedSearch {
                         levels = std::max(levels, 1 + Visit(next, mapping.TargetObjRule));
             }
         }
-        --gRelatedSearchDepth;
+        --gBlock.gRelatedSearchDepth;
         return levels;
     }
 
@@ -76,13 +76,13 @@ class RelatedSearch {
     /// Whether a visit at the present depth would go beyond the limit: one that is still under way turns in a
     /// circle.
     static bool IsTooDeep(std::int32_t levels) {
-        return levels == underWay || gRelatedSearchDepth + levels > relatedSearchLimit;
+        return levels == underWay || gBlock.gRelatedSearchDepth + levels > relatedSearchLimit;
     }
 
     /// Goes down, in the order of the search, to the object at which the limit is met.
     [[noreturn]] void FailWhereTooDeep(ARISObjDef item, std::string_view ruleName) {
-        while (gRelatedSearchDepth < relatedSearchLimit) {
-            ++gRelatedSearchDepth;
+        while (gBlock.gRelatedSearchDepth < relatedSearchLimit) {
+            ++gBlock.gRelatedSearchDepth;
             std::tie(item, ruleName) = FirstTooDeepBehind(item, ruleName);
         }
         Fail(item);
@@ -101,7 +101,7 @@ class RelatedSearch {
     }
 
     [[noreturn]] void Fail(const ARISObjDef& item) {
-        frame_.Raise(2230, item->Name(gLocale), item->Type());
+        frame_.Raise(2230, item->Name(gBlock.gLocale), item->Type());
         throw Failure(FailureKind::invalidCall);
     }
 

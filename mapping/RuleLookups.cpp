@@ -66,7 +66,7 @@ class PathSearch {
         const Key key(step->Guid(), ruleName);
         if (const auto known = tails_.find(key); known != tails_.end()) {
             if (!known->second) return;
-            gCurrentProcedure = relationProcedure;  // as the relation test leaves it
+            gBlock.gCurrentProcedure = relationProcedure;  // as the relation test leaves it
             found.Add({CreatePath(from, step), known->second});
             return;
         }
@@ -76,7 +76,8 @@ class PathSearch {
         }
         const Ref<clsPath> head = CreatePath(from, step);
         Procedure(pathsProcedure, [&](Frame& frame) {
-            const Ref<PathCollection> tails = gPool.Create<PathCollection>(PathsFrom(frame, step, ruleName));
+            const Ref<PathCollection> tails =
+                gBlock.gPool.Create<PathCollection>(PathsFrom(frame, step, ruleName));
             found.Add(ConcatenatePath(head, tails));
             tails_.emplace(key, tails);
         });
@@ -103,8 +104,8 @@ Collection<ARISObjDef>& Find_ARIS_ObjDef(const Collection<ARISModel>& models, Co
                                          std::int32_t objTypeNum) {
     Procedure("modMappingRule.Find_ARIS_ObjDef", [&](Frame&) {
         for (const ARISModel& model : models) {
-            ARISObjDefList list = model->ObjDefListFilter("", gLocale, objTypeNum, "");
-            list.Sort(nameAttribute, 0, 0, gLocale);
+            ARISObjDefList list = model->ObjDefListFilter("", gBlock.gLocale, objTypeNum, "");
+            list.Sort(nameAttribute, 0, 0, gBlock.gLocale);
             const std::int16_t last = LastPosition(list);
             for (std::int32_t i = 0; i <= last; ++i) {
                 const ARISObjDef item = list.Get(i);
@@ -118,9 +119,9 @@ Collection<ARISObjDef>& Find_ARIS_ObjDef(const Collection<ARISModel>& models, Co
 std::string ItemAttribute(std::string_view procedure, const Ref<const aris::Item>& item,
                           std::int32_t attrTypeNum) {
     return Procedure(procedure, [&](Frame&) {
-        if (attrTypeNum == AttributeType::itemName) return item->Name(gLocale);
-        const ARISAttr attribute = item->Attribute(attrTypeNum, gLocale);
-        return attribute->IsMaintained() ? attribute->GetValue(gOptRemoveLineBreaks) : std::string();
+        if (attrTypeNum == AttributeType::itemName) return item->Name(gBlock.gLocale);
+        const ARISAttr attribute = item->Attribute(attrTypeNum, gBlock.gLocale);
+        return attribute->IsMaintained() ? attribute->GetValue(gBlock.gOptRemoveLineBreaks) : std::string();
     });
 }
 
@@ -147,7 +148,7 @@ Collection<ARISObjDef>& Find_Related_ARIS_ObjDef(Collection<ARISObjDef>& result,
     Procedure("modMappingRule.Find_Related_ARIS_ObjDef", [&](Frame& frame) {
         if (!IsDrawn(item)) return;
         const ARISCxnDefList list =
-            item->CxnListFilter(cnxKind, "", gLocale, cnxTypeNum, connectionFilterConstant);
+            item->CxnListFilter(cnxKind, "", gBlock.gLocale, cnxTypeNum, connectionFilterConstant);
         const std::int16_t last = LastPosition(list);
         ARISObjDef other;
         for (std::int32_t i = 0; i <= last; ++i) {

@@ -24,10 +24,10 @@ void AddRow(clsMappingRule& rule, const defaultRules::StepRow& row) {
 template <class Rows>
 void CreateRules(Frame& frame, const Rows& rows) {
     for (std::size_t i = 0; i < rows.size();) {
-        const Ref<clsMappingRule> rule = gPool.Create<clsMappingRule>();
+        const Ref<clsMappingRule> rule = gBlock.gPool.Create<clsMappingRule>();
         rule->Name = rows[i].rule;
         for (; i < rows.size() && rows[i].rule == rule->Name; ++i) AddRow(*rule, rows[i]);
-        if (!gColMappingRule.AddNew(rule, rule->Name)) frame.Raise(2110, rule->Name);
+        if (!gBlock.gColMappingRule.AddNew(rule, rule->Name)) frame.Raise(2110, rule->Name);
     }
 }
 
@@ -42,12 +42,12 @@ void CreateDefaultMappingRules() {
 }
 
 Ref<const clsMappingRule> FetchRule(Frame& frame, std::string_view ruleName) {
-    gFailureContext = "Retrieve rule";
-    if (const Ref<clsMappingRule>* rule = gColMappingRule.Find(ruleName)) {
-        gFailureContext = "";
+    gBlock.gFailureContext = "Retrieve rule";
+    if (const Ref<clsMappingRule>* rule = gBlock.gColMappingRule.Find(ruleName)) {
+        gBlock.gFailureContext = "";
         return rule->Get();
     }
-    gFailureContext = "failed";
+    gBlock.gFailureContext = "failed";
     frame.Raise(2100, ruleName);
     return nullptr;
 }

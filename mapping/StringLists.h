@@ -15,9 +15,9 @@ namespace wxbrg {
 template <class Entry>
 bool ARIS_ObjDefIsMemberOfCollection(const ARISObjDef& item, const Collection<Entry>& col) {
     return Procedure("modUtilities.ARIS_ObjDefIsMemberOfCollection", [&](Frame&) {
-        gFailureContext = "Retrieve collection member";
+        gBlock.gFailureContext = "Retrieve collection member";
         const bool member = col.Find(item->Guid()) != nullptr;
-        if (!member) gFailureContext = "";
+        if (!member) gBlock.gFailureContext = "";
         return member;
     });
 }

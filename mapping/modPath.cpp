@@ -23,7 +23,7 @@ PathCollection::Entry Join(const Ref<clsPath>& head, const Ref<const PathCollect
 
 /// Adds the ways of going on with `second` from the paths of one entry.
 void AddJoined(PathCollection& joined, const PathCollection::Entry& first, const PathCollection& second) {
-    const Ref<PathCollection> tails = gPool.Create<PathCollection>();
+    const Ref<PathCollection> tails = gBlock.gPool.Create<PathCollection>();
     if (first.tails) {
         for (const PathCollection::Entry& tail : *first.tails) AddJoined(*tails, tail, second);
     } else {
@@ -38,7 +38,7 @@ void AddJoined(PathCollection& joined, const PathCollection::Entry& first, const
 
 Ref<clsPath> CreatePath(const ARISObjDef& fromObj, const ARISObjDef& toObj) {
     return Procedure("modPath.CreatePath", [&](Frame&) {
-        const Ref<clsPath> path = gPool.Create<clsPath>();
+        const Ref<clsPath> path = gBlock.gPool.Create<clsPath>();
         path->FROM_ARISObjectDefinition = fromObj;
         path->TO_ARISObjectDefinition = toObj;
         return path;

@@ -46,7 +46,7 @@ void clsACTIVITY::SetupProperty_SUPPORT_TOOL() {
         Collection<ARISObjDef> programs;
         Find_Related_ARIS_ObjDef_Using_Mapping_Rule(programs, ARISObjectDefinition, "ACTIVITY_PROGRAM");
         for (std::int32_t i = Is_PROCESS_ACTIVITY() ? 1 : 2; i <= programs.Count(); ++i) {
-            std::string name = programs.Item(i)->Name(gLocale);
+            std::string name = programs.Item(i)->Name(gBlock.gLocale);
             frame.Step([&] {
                 name = ConvertARISName(name, NameKind::objectName, "");
             });
@@ -59,7 +59,7 @@ void clsACTIVITY::SetupProperty_SUPPORT_TOOL() {
 void clsACTIVITY::SetupProperty_StartCondition(const clsPROCESS& Process) {
     Procedure("clsACTIVITY.SetupProperty_StartCondition", [&](Frame&) {
         std::string text;
-        if (gOptStartConditions) text = GetProperty_StartCondition(startConditionRule, Process);
+        if (gBlock.gOptStartConditions) text = GetProperty_StartCondition(startConditionRule, Process);
         if (text.empty()) text = GetProperty_StartCondition(joinRule, Process);
         StartCondition = text.empty() ? std::string(anyConnector) : text;
     });
@@ -85,7 +85,7 @@ bool clsACTIVITY::IsOnAllIncomingPaths(const ARISObjDef& ruleObject) const {
                                    [&](const Ref<clsCONTROL_CONNECTOR>& connector) {
                                        return connector->ColPath.AllPassThrough(ruleObject->Guid());
                                    });
-    gFailureContext = "";
+    gBlock.gFailureContext = "";
     return onAll;
 }
 
@@ -97,7 +97,7 @@ void clsACTIVITY::SetupProperty_StartMode() {
 void clsACTIVITY::SetupProperty_ExitCondition() {
     Procedure("clsACTIVITY.SetupProperty_ExitCondition", [&](Frame&) {
         std::string text;
-        if (gOptExitConditions) text = GetProperty_ExitCondition(exitConditionRule);
+        if (gBlock.gOptExitConditions) text = GetProperty_ExitCondition(exitConditionRule);
         if (text.empty()) text = GetProperty_ExitCondition("");
         if (!text.empty()) ExitCondition = text;
     });
@@ -121,12 +121,12 @@ void clsACTIVITY::SetupProperty_ExitMode() {
 
 void clsACTIVITY::SetupProperty_ExplicitStaffAssignment() {
     Procedure("clsACTIVITY.SetupProperty_ExplicitStaffAssignment", [&](Frame&) {
-        if (!gOptDynamicStaffAssignment) SetupProperty_PERSON();
+        if (!gBlock.gOptDynamicStaffAssignment) SetupProperty_PERSON();
         if (PERSON.empty()) {
             SetupProperty_MEMBER_OF_ROLE();
             SetupProperty_ORGANIZATION();
         }
-        if (gOptDynamicStaffAssignment && MEMBER_OF_ROLE.empty() && ORGANIZATION.empty())
+        if (gBlock.gOptDynamicStaffAssignment && MEMBER_OF_ROLE.empty() && ORGANIZATION.empty())
             SetupProperty_PERSON();
     });
 }

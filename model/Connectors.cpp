@@ -14,7 +14,7 @@ std::string ConnectorKey(const ARISObjDef& from, const ARISObjDef& to) {
 }
 
 std::string CitedName(const ARISObjDef& object) {
-    return Quoted(ConvertARISName(object->Name(gLocale), NameKind::activityName, ""));
+    return Quoted(ConvertARISName(object->Name(gBlock.gLocale), NameKind::activityName, ""));
 }
 
 std::string FromToText(const ARISObjDef& from, const ARISObjDef& to) {
@@ -23,7 +23,8 @@ std::string FromToText(const ARISObjDef& from, const ARISObjDef& to) {
 }
 
 void NoteConnector(std::int16_t severity, std::int32_t number, const ARISObjDef& from, const ARISObjDef& to) {
-    WriteNote(severity, number, from->Type(), from->Name(gLocale), to->Type(), to->Name(gLocale));
+    WriteNote(severity, number, from->Type(), from->Name(gBlock.gLocale), to->Type(),
+              to->Name(gBlock.gLocale));
 }
 
 PathCollection ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule) {
@@ -38,7 +39,7 @@ void SetupConnectorDescription(std::string& description, const PathCollection& p
 
 bool ClosesLoop(FlowLoops& flow, const ARISObjDef& from, const ARISObjDef& to) {
     const bool closes = flow.ClosesLoop(from->Guid(), to->Guid());
-    gFailureContext = flow.LastTestFound() ? "Retrieve collection member" : "";
+    gBlock.gFailureContext = flow.LastTestFound() ? "Retrieve collection member" : "";
     return closes;
 }
 

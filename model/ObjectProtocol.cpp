@@ -20,7 +20,7 @@ std::string Quoted(std::string_view text) {
 }
 
 void NoteMapped(const ARISObjDef& item, std::string_view kind) {
-    WriteNote(Severity::information, 3060, item->Name(gLocale), item->Type(), kind);
+    WriteNote(Severity::information, 3060, item->Name(gBlock.gLocale), item->Type(), kind);
 }
 
 void NoteFurtherIgnored(const Collection<ARISObjDef>& related, std::string_view first,
@@ -28,7 +28,8 @@ void NoteFurtherIgnored(const Collection<ARISObjDef>& related, std::string_view 
     if (related.Count() < 2) return;
     WriteNote(Severity::exclamation, 3000, first, second);
     for (std::int32_t i = 2; i <= related.Count(); ++i)
-        WriteNote(Severity::information, 3030, related.Item(i)->Name(gLocale), related.Item(i)->Type());
+        WriteNote(Severity::information, 3030, related.Item(i)->Name(gBlock.gLocale),
+                  related.Item(i)->Type());
 }
 
 void SetupText(std::string_view procedure, std::string& property, bool gate, std::string_view nameKind,
@@ -52,7 +53,7 @@ std::optional<std::string> NameOfPerson(const ARISObjDef& item) {
 }
 
 std::optional<std::string> NameOfObject(const ARISObjDef& item) {
-    return ObjectNameOf(item->Name(gLocale));
+    return ObjectNameOf(item->Name(gBlock.gLocale));
 }
 
 std::optional<std::string> NameOfOrganization(const ARISObjDef& item) {

@@ -44,7 +44,7 @@ void FindBatch(std::string_view procedure, const Collection<ARISModel>& models,
     Procedure(procedure, [&](Frame&) {
         Collection<ARISObjDef> found;
         for (const ARISObjDef& item : Find_ARIS_ObjDef_Using_Mapping_Rule(models, found, kind)) {
-            const Ref<Object> object = gPool.Create<Object>();
+            const Ref<Object> object = gBlock.gPool.Create<Object>();
             object->ARISObjectDefinition = item;
             registry.AddNew(object, item->Guid());
             NoteMapped(item, kind);
@@ -78,9 +78,9 @@ Ref<Object> AddARISMapping(const MappingWords& words, const ARISObjDef& item,
                            Collection<Ref<Object>>& registry, Prepare&& prepare) {
     return Procedure(words.procedure, [&](Frame& frame) -> Ref<Object> {
         if (!ARIS_ObjDef_Conforms_To_Mapping_Rule(item, words.rule))
-            frame.Raise(2120, item->Type(), item->Name(gLocale), words.kindInFailure);
+            frame.Raise(2120, item->Type(), item->Name(gBlock.gLocale), words.kindInFailure);
         if (ARIS_ObjDefIsMemberOfCollection(item, registry)) return registry.Item(item->Guid());
-        const Ref<Object> object = gPool.Create<Object>();
+        const Ref<Object> object = gBlock.gPool.Create<Object>();
         object->ARISObjectDefinition = item;
         prepare(*object);
         if (!registry.AddNew(object, item->Guid())) {
@@ -129,7 +129,7 @@ void SetupText(std::string_view procedure, std::string& property, bool gate, std
 template <class Read>
 void SetupSettings(std::string_view procedure, std::string& property, Read&& read) {
     Procedure(procedure, [&](Frame&) {
-        if (!gOptUseOtherSettings) return;
+        if (!gBlock.gOptUseOtherSettings) return;
         std::string text = read();
         if (!text.empty()) property = std::move(text);
     });

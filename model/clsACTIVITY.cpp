@@ -9,7 +9,8 @@
 namespace wxbrg {
 
 clsACTIVITY::clsACTIVITY()
-    : InputContainer(gPool.Create<clsDATA_STRUCTURE>()), OutputContainer(gPool.Create<clsDATA_STRUCTURE>()) {}
+    : InputContainer(gBlock.gPool.Create<clsDATA_STRUCTURE>()),
+      OutputContainer(gBlock.gPool.Create<clsDATA_STRUCTURE>()) {}
 
 void clsACTIVITY::SetupIndependentProperties(Collection<ARISModel>& ColNewModels) {
     Procedure("clsACTIVITY.SetupIndependentProperties", [&](Frame&) {
@@ -56,12 +57,12 @@ void clsACTIVITY::SetupProperty_LAYOUT() {
         if (LayoutConversionFinished)
             LAYOUT = PositionText(WPX_XPos, WPX_YPos);
         else
-            frame.Raise(2070, ARISObjectDefinition->Name(gLocale));
+            frame.Raise(2070, ARISObjectDefinition->Name(gBlock.gLocale));
     });
 }
 
 void clsACTIVITY::SetupProperty_DESCRIPTION() {
-    SetupText("clsACTIVITY.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsACTIVITY.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, ARISObjectDefinition, "ACTIVITY_DESCRIPTION");
 }
 
@@ -73,9 +74,9 @@ void clsACTIVITY::SetupProperty_DOCUMENTATION() {
 
 void clsACTIVITY::SetupProperty_ProcessActivitySetting(Collection<ARISModel>& ColNewModels) {
     Procedure("clsACTIVITY.SetupProperty_ProcessActivitySetting", [&](Frame&) {
-        gFailureContext = "Retrieve PROCESS";
-        if (gColPROCESS.Find(AssignedModel->Guid()) == nullptr) {
-            gFailureContext = "";
+        gBlock.gFailureContext = "Retrieve PROCESS";
+        if (gBlock.gColPROCESS.Find(AssignedModel->Guid()) == nullptr) {
+            gBlock.gFailureContext = "";
             ColNewModels.AddNew(AssignedModel, AssignedModel->Guid());
         }
         SetupProperty_PROCESS();

@@ -26,9 +26,9 @@ std::string Comparison(const ARISObjDef& event, const Collection<ARISObjDef>& da
     std::string value = Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(event, "EVENT_COMPARE_VALUE");
     if (value.empty()) return {};
     if (!IsNumeric(value, DecimalSeparator())) value = "\"" + value + "\"";
-    std::string name = ConvertARISName(data.Item(1)->Name(gLocale), NameKind::memberName, "");
+    std::string name = ConvertARISName(data.Item(1)->Name(gBlock.gLocale), NameKind::memberName, "");
     if (name.find(' ') != std::string::npos) name = "''" + name + "''";
-    if (data.Count() > 1) WriteNote(Severity::exclamation, 3120, event->Name(gLocale));
+    if (data.Count() > 1) WriteNote(Severity::exclamation, 3120, event->Name(gBlock.gLocale));
     return name + " " + compareOperator + " " + value;
 }
 
@@ -40,11 +40,11 @@ class ConditionReader : public PathReader {
     explicit ConditionReader(ConditionOfObject conditionOf) : conditionOf_(std::move(conditionOf)) {}
 
     bool Read(const ARISObjDef& object) override {
-        const SeverityCounts notes = gRunReport.notes;
-        const SeverityCounts boxes = gRunReport.boxes;
+        const SeverityCounts notes = gBlock.gRunReport.notes;
+        const SeverityCounts boxes = gBlock.gRunReport.boxes;
         const std::string condition = conditionOf_(object);
         if (!condition.empty()) ofPath_.append(ofPath_.empty() ? "" : " AND ").append(condition);
-        return !condition.empty() || gRunReport.notes != notes || gRunReport.boxes != boxes;
+        return !condition.empty() || gBlock.gRunReport.notes != notes || gBlock.gRunReport.boxes != boxes;
     }
 
     /// Once two paths had a condition, one without takes over that of the last.
@@ -97,7 +97,7 @@ void clsCONTROL_CONNECTOR::SetupProperties() {
 
 void clsCONTROL_CONNECTOR::SetupProperty_DESCRIPTION() {
     Procedure("clsCONTROL_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
-        if (!gOptUseDescriptionAttr) return;
+        if (!gBlock.gOptUseDescriptionAttr) return;
         if (!ConnectorPathsAvailable) {
             frame.Raise(2080);
             return;
@@ -114,7 +114,7 @@ void clsCONTROL_CONNECTOR::SetupProperty_Linking() {
 
 std::string clsCONTROL_CONNECTOR::ConditionOf(const ARISObjDef& object) {
     std::string condition;
-    if (gOptTransitionConditions) condition = GetProperty_Condition(typedCondition, object);
+    if (gBlock.gOptTransitionConditions) condition = GetProperty_Condition(typedCondition, object);
     if (condition.empty()) condition = GetProperty_Condition(comparedData, object);
     return condition;
 }
@@ -148,7 +148,7 @@ std::string clsCONTROL_CONNECTOR::GetProperty_Condition(std::string_view RuleNam
 
 void clsCONTROL_CONNECTOR::SetupProperty_LAYOUT() {
     Procedure("clsCONTROL_CONNECTOR.SetupProperty_LAYOUT", [&](Frame& frame) {
-        if (gOptUseCtrlConBendPoints)
+        if (gBlock.gOptUseCtrlConBendPoints)
             AddBendPoint(frame, LAYOUT, ColPath, ConnectorPathsAvailable, FROM_ARISObjectDefinition,
                          TO_ARISObjectDefinition, *PROCESS);
     });

@@ -13,7 +13,8 @@
 namespace wxbrg {
 
 clsPROCESS::clsPROCESS()
-    : InputContainer(gPool.Create<clsDATA_STRUCTURE>()), OutputContainer(gPool.Create<clsDATA_STRUCTURE>()) {}
+    : InputContainer(gBlock.gPool.Create<clsDATA_STRUCTURE>()),
+      OutputContainer(gBlock.gPool.Create<clsDATA_STRUCTURE>()) {}
 
 void clsPROCESS::SetupProperties(Collection<ARISModel>& ColNewModels) {
     SetupOnce("clsPROCESS.SetupProperties", SetupFinished, "PROCESS", ProcessName, [&] {
@@ -73,7 +74,7 @@ void clsPROCESS::SetupProperty_ProcessSetting() {
 }
 
 void clsPROCESS::SetupProperty_DESCRIPTION() {
-    SetupText("clsPROCESS.SetupProperty_DESCRIPTION", DESCRIPTION, gOptUseDescriptionAttr,
+    SetupText("clsPROCESS.SetupProperty_DESCRIPTION", DESCRIPTION, gBlock.gOptUseDescriptionAttr,
               NameKind::description, [&] {
                   return PROCESS_Find_ARIS_Model_Attribute_Using_Mapping_Rule(ARIS_Model,
                                                                               "PROCESS_DESCRIPTION");
@@ -81,7 +82,7 @@ void clsPROCESS::SetupProperty_DESCRIPTION() {
 }
 
 void clsPROCESS::SetupProperty_DOCUMENTATION() {
-    SetupText("clsPROCESS.SetupProperty_DOCUMENTATION", DOCUMENTATION, gOptUseDocumentationAttr,
+    SetupText("clsPROCESS.SetupProperty_DOCUMENTATION", DOCUMENTATION, gBlock.gOptUseDocumentationAttr,
               NameKind::documentation, [&] {
                   return PROCESS_Find_ARIS_Model_Attribute_Using_Mapping_Rule(ARIS_Model,
                                                                               "PROCESS_DOCUMENTATION");
@@ -90,7 +91,7 @@ void clsPROCESS::SetupProperty_DOCUMENTATION() {
 
 void clsPROCESS::SetupProperty_CATEGORY() {
     SetupText("clsPROCESS.SetupProperty_CATEGORY", CATEGORY, true, NameKind::objectName, [&] {
-        return ARIS_Group->Name(gLocale);
+        return ARIS_Group->Name(gBlock.gLocale);
     });
 }
 

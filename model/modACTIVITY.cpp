@@ -19,11 +19,11 @@ void AssignModel(clsACTIVITY& activity) {
     if (models.Count() == 1) return;
     WriteNote(Severity::exclamation, 3000, "PROCESS", "PROCESS_ACTIVITY");
     for (std::int32_t i = 2; i <= models.Count(); ++i)
-        WriteNote(Severity::information, 3020, models.Item(i)->Name(gLocale), models.Item(i)->Type());
+        WriteNote(Severity::information, 3020, models.Item(i)->Name(gBlock.gLocale), models.Item(i)->Type());
 }
 
 void AddActivity(clsPROCESS& process, const ARISObjDef& object, const ARISObjOcc& occurrence) {
-    const Ref<clsACTIVITY> activity = gPool.Create<clsACTIVITY>();
+    const Ref<clsACTIVITY> activity = gBlock.gPool.Create<clsACTIVITY>();
     activity->ARISObjectDefinition = object;
     activity->ARISObjectOccurrence = occurrence;
     activity->ARIS_XPos = occurrence->X();

@@ -16,9 +16,9 @@ constexpr BetweenActivities<clsCONTROL_CONNECTOR> controlFlow{
     &clsPROCESS::Col_CONTROL_CONNECTOR, &clsPROCESS::ControlFlow, 3070};
 
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
-    const Ref<clsCONTROL_CONNECTOR> connector = gPool.Create<clsCONTROL_CONNECTOR>();
+    const Ref<clsCONTROL_CONNECTOR> connector = gBlock.gPool.Create<clsCONTROL_CONNECTOR>();
     AddBetweenActivities(controlFlow, connector, process, from, to, [&] {
-        if (gOptFindControlFlowLoops && connector->IsMemberOfInvalidControlFlowLoop(process))
+        if (gBlock.gOptFindControlFlowLoops && connector->IsMemberOfInvalidControlFlowLoop(process))
             NoteConnector(Severity::exclamation, 3130, from, to);
     });
 }

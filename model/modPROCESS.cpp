@@ -30,11 +30,11 @@ void PROCESS_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
     Procedure("modPROCESS.PROCESS_Find_ARIS_Mapping", [&](Frame&) {
         for (const ARISModel& model :
              PROCESS_Find_ARIS_Model_In_ModelCollection_Using_Mapping_Rule(ColARISModels, "PROCESS")) {
-            const Ref<clsPROCESS> process = gPool.Create<clsPROCESS>();
+            const Ref<clsPROCESS> process = gBlock.gPool.Create<clsPROCESS>();
             process->ARIS_Model = model;
             process->ARIS_Group = model->Group();
-            gColPROCESS.AddNew(process, model->Guid());
-            WriteNote(Severity::information, 3050, model->Name(gLocale));
+            gBlock.gColPROCESS.AddNew(process, model->Guid());
+            WriteNote(Severity::information, 3050, model->Name(gBlock.gLocale));
         }
     });
 }
@@ -43,10 +43,10 @@ Collection<ARISModel> PROCESS_SetupProperties() {
     return Procedure("modPROCESS.PROCESS_SetupProperties", [&](Frame&) {
         Collection<ARISModel> newModels;
         std::uint64_t done = 0;
-        for (const Ref<clsPROCESS>& process : gColPROCESS) {
+        for (const Ref<clsPROCESS>& process : gBlock.gColPROCESS) {
             process->SetupProperties(newModels);
-            gPlatform->progress.Report("building processes", ++done,
-                                       static_cast<std::uint64_t>(gColPROCESS.Count()));
+            gBlock.gPlatform->progress.Report("building processes", ++done,
+                                              static_cast<std::uint64_t>(gBlock.gColPROCESS.Count()));
         }
         return newModels;
     });

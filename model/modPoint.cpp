@@ -64,7 +64,7 @@ void AddBendPoint(Frame& frame, std::string& layout, const PathCollection& paths
         return;
     }
     if (!process.LayoutConversionFinished) {
-        frame.Raise(2060, process.ARIS_Model->Name(gLocale));
+        frame.Raise(2060, process.ARIS_Model->Name(gBlock.gLocale));
         return;
     }
     const std::vector<ARISObjDef> between = paths.FirstObjectsBetween();

@@ -34,15 +34,15 @@ std::int32_t CharacterSetOf(std::uint32_t locale) {
 }
 
 const FormFont& DefaultFont() {
-    if (!gDefaultFont) gDefaultFont = gPlatform->optionsFormView.DefaultFont();
-    return *gDefaultFont;
+    if (!gBlock.gDefaultFont) gBlock.gDefaultFont = gBlock.gPlatform->optionsFormView.DefaultFont();
+    return *gBlock.gDefaultFont;
 }
 
 }  // namespace
 
 void SetProperFont(FormFont& Font) {
     Font = DefaultFont();
-    Font.characterSet = CharacterSetOf(gPlatform->userLocale.Number());
+    Font.characterSet = CharacterSetOf(gBlock.gPlatform->userLocale.Number());
 }
 
 void Set_NLS_Font_Form(frmExportOptions& Form) {

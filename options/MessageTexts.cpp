@@ -33,20 +33,20 @@ bool LoadLocalizedResources() {
     return Procedure("modUtilities.LoadLocalizedResources", [&](Frame&) {
         const std::string stem = "wxbrg" + TagOf(GetProfileValue(programKey, languageValue));
         const std::string fileName = stem + ".dll";
-        gResourceLibrary = gPlatform->languageLibraries.Load(fileName);
-        const bool loaded = gResourceLibrary != nullptr;
+        gBlock.gResourceLibrary = gBlock.gPlatform->languageLibraries.Load(fileName);
+        const bool loaded = gBlock.gResourceLibrary != nullptr;
         if (!loaded)
             clsExceptionHandler::ShowMessageBox(
                 "The Language Resource file '" + fileName + "' could not be found.",
                 BoxStyle::ok + Severity::critical + BoxStyle::foreground);
-        gHelpFile = stem + ".hlp";
+        gBlock.gHelpFile = stem + ".hlp";
         return loaded;
     });
 }
 
 std::string GetStringFromResourceFile(std::int32_t ID) {
-    if (gResourceLibrary == nullptr) return {};
-    std::string text = gResourceLibrary->LoadString(static_cast<std::uint32_t>(ID), textCapacity);
+    if (gBlock.gResourceLibrary == nullptr) return {};
+    std::string text = gBlock.gResourceLibrary->LoadString(static_cast<std::uint32_t>(ID), textCapacity);
     if (text.empty()) text = "Error :\r\nThe Resource ID '" + std::to_string(ID) + "' was not found";
     return text;
 }

@@ -44,21 +44,21 @@ constexpr ExportOption OptionOf(std::string_view valueName, bool GlobalBlock::*f
 /// The options in the order of loading.
 // clang-format off
 inline constexpr std::array exportOptions{
-    OptionOf("ConvertNames",           &GlobalBlock::optConvertNames,            1),
-    OptionOf("RemoveLineBreaks",       &GlobalBlock::optRemoveLineBreaks,        2),
+    OptionOf("ConvertNames",           &GlobalBlock::gOptConvertNames,            1),
+    OptionOf("RemoveLineBreaks",       &GlobalBlock::gOptRemoveLineBreaks,        2),
     OptionOf("FirstSuffixNumber",      nullptr,                                  3),
-    OptionOf("UseDataConBendPoints",   &GlobalBlock::optUseDataConBendPoints,    5),
-    OptionOf("UseCtrlConBendPoints",   &GlobalBlock::optUseCtrlConBendPoints,    4),
-    OptionOf("UseDescriptionAttr",     &GlobalBlock::optUseDescriptionAttr,      6),
-    OptionOf("UseDocumentationAttr",   &GlobalBlock::optUseDocumentationAttr,    7),
-    OptionOf("UseOtherSettings",       &GlobalBlock::optUseOtherSettings,        8),
-    OptionOf("DynamicStaffAssignment", &GlobalBlock::optDynamicStaffAssignment,  9),
-    OptionOf("FindDataFlowLoops",      &GlobalBlock::optFindDataFlowLoops,      10),
-    OptionOf("FindControlFlowLoops",   &GlobalBlock::optFindControlFlowLoops,   11),
-    OptionOf("StartConditions",        &GlobalBlock::optStartConditions,        12),
-    OptionOf("ExitConditions",         &GlobalBlock::optExitConditions,         13),
-    OptionOf("TransitionConditions",   &GlobalBlock::optTransitionConditions,   14),
-    OptionOf("DataTypeFromAttribute",  &GlobalBlock::optDataTypeFromAttribute,  15),
+    OptionOf("UseDataConBendPoints",   &GlobalBlock::gOptUseDataConBendPoints,    5),
+    OptionOf("UseCtrlConBendPoints",   &GlobalBlock::gOptUseCtrlConBendPoints,    4),
+    OptionOf("UseDescriptionAttr",     &GlobalBlock::gOptUseDescriptionAttr,      6),
+    OptionOf("UseDocumentationAttr",   &GlobalBlock::gOptUseDocumentationAttr,    7),
+    OptionOf("UseOtherSettings",       &GlobalBlock::gOptUseOtherSettings,        8),
+    OptionOf("DynamicStaffAssignment", &GlobalBlock::gOptDynamicStaffAssignment,  9),
+    OptionOf("FindDataFlowLoops",      &GlobalBlock::gOptFindDataFlowLoops,      10),
+    OptionOf("FindControlFlowLoops",   &GlobalBlock::gOptFindControlFlowLoops,   11),
+    OptionOf("StartConditions",        &GlobalBlock::gOptStartConditions,        12),
+    OptionOf("ExitConditions",         &GlobalBlock::gOptExitConditions,         13),
+    OptionOf("TransitionConditions",   &GlobalBlock::gOptTransitionConditions,   14),
+    OptionOf("DataTypeFromAttribute",  &GlobalBlock::gOptDataTypeFromAttribute,  15),
 };
 // clang-format on
 

@@ -14,7 +14,7 @@ ProfileValue GetProfileValue(const ProfileStore& store, std::string_view Key, st
 
 ProfileValue GetProfileValue(std::string_view Key, std::string_view ValueName) {
     return Procedure("modUtilities.GetProfileValue", [&](Frame&) {
-        return GetProfileValue(gPlatform->profileStore, Key, ValueName);
+        return GetProfileValue(gBlock.gPlatform->profileStore, Key, ValueName);
     });
 }
 
@@ -23,7 +23,7 @@ void SetProfileValue(std::string_view Key, std::string_view ValueName, const Pro
     Procedure("modUtilities.SetProfileValue", [&](Frame&) {
         const bool text = Type == ProfileType::text && std::holds_alternative<std::string>(Value);
         const bool number = Type == ProfileType::number && std::holds_alternative<std::int32_t>(Value);
-        if (text || number) gPlatform->profileStore.Write(Key, ValueName, Value);
+        if (text || number) gBlock.gPlatform->profileStore.Write(Key, ValueName, Value);
     });
 }
 

@@ -68,8 +68,8 @@ frmExportOptions::Control& frmExportOptions::StateOf(const FormControl& control)
 
 void frmExportOptions::ShowModal() {
     Form_Load();
-    gPlatform->optionsFormView.ShowModal(*this);
-    gActiveForm = nullptr;
+    gBlock.gPlatform->optionsFormView.ShowModal(*this);
+    gBlock.gActiveForm = nullptr;
 }
 
 void frmExportOptions::Form_Load() {
@@ -79,7 +79,7 @@ void frmExportOptions::Form_Load() {
 }
 
 void frmExportOptions::Activate() {
-    gActiveForm = this;
+    gBlock.gActiveForm = this;
     Set_NLS_Font_Form(*this);
     SetFormStrings();
     SetFormHelp();
@@ -103,13 +103,13 @@ void frmExportOptions::LoadOptions() {
 
 void frmExportOptions::LoadNumber(const ProfileValue& stored, Control& control) {
     if (std::holds_alternative<std::monostate>(stored)) {
-        gOptFirstSuffixNumber = ToInt32(control.text, DecimalSeparator());
+        gBlock.gOptFirstSuffixNumber = ToInt32(control.text, DecimalSeparator());
         return;
     }
     const auto* text = std::get_if<std::string>(&stored);
     const std::int32_t number = text ? ToInt32(*text, DecimalSeparator()) : std::get<std::int32_t>(stored);
-    gOptFirstSuffixNumber = std::max(number, 0);
-    Change(std::to_string(gOptFirstSuffixNumber));
+    gBlock.gOptFirstSuffixNumber = std::max(number, 0);
+    Change(std::to_string(gBlock.gOptFirstSuffixNumber));
 }
 
 void frmExportOptions::SaveOptions() {
@@ -118,7 +118,7 @@ void frmExportOptions::SaveOptions() {
         if (option->IsNumber()) {
             const std::int32_t number = control.text.empty() ? 0 : ToInt32(control.text, DecimalSeparator());
             SetProfileValue(programKey, option->valueName, number, ProfileType::number);
-            gOptFirstSuffixNumber = number;
+            gBlock.gOptFirstSuffixNumber = number;
         } else {
             SetProfileValue(programKey, option->valueName, Stored(control.checked), ProfileType::number);
             gBlock.*option->flag = control.checked;
@@ -212,13 +212,13 @@ void frmExportOptions::cmdCancel_Click() {
 }
 
 void frmExportOptions::Help() {
-    gPlatform->helpViewer.ShowPage(gHelpFile, HelpContextID);
+    gBlock.gPlatform->helpViewer.ShowPage(gBlock.gHelpFile, HelpContextID);
 }
 
 void frmExportOptions::HelpOn(std::string_view control) {
     const std::size_t index = IndexOf(control);
     if (index == formControls.size() || controls[index].HelpContextID == 0) return;
-    gPlatform->helpViewer.ShowPage(gHelpFile, controls[index].HelpContextID);
+    gBlock.gPlatform->helpViewer.ShowPage(gBlock.gHelpFile, controls[index].HelpContextID);
 }
 
 }  // namespace wxbrg

@@ -6,7 +6,7 @@
 namespace wxbrg {
 
 void SetFormHelp() {
-    frmExportOptions& form = *gActiveForm;
+    frmExportOptions& form = *gBlock.gActiveForm;
     form.HelpContextID = formHelpNumber;
     for (std::size_t i = 0; i < formControls.size(); ++i)
         form.controls[i].HelpContextID = formControls[i].helpNumber;

@@ -7,7 +7,7 @@
 namespace wxbrg {
 
 void SetFormStrings() {
-    frmExportOptions& form = *gActiveForm;
+    frmExportOptions& form = *gBlock.gActiveForm;
     form.caption = Get_NLS_String_Message(formCaptionNumber);
     for (std::int32_t number = formCaptionNumber + 1; number <= lastCaptionNumber; ++number) {
         const std::size_t control = FindControl([number](const FormControl& candidate) {

@@ -18,8 +18,8 @@ std::string TwoDigits(int number) {
 
 /// The present date and time, as "2026 Sat Nov 21  12:43:00".
 std::string DateText() {
-    const LocalTime now = gPlatform->clock.Now();
-    const UserLocale& locale = gPlatform->userLocale;
+    const LocalTime now = gBlock.gPlatform->clock.Now();
+    const UserLocale& locale = gBlock.gPlatform->userLocale;
     return std::to_string(now.year) + " " + locale.DayName(now.weekday) + " " + locale.MonthName(now.month) +
            " " + std::to_string(now.day) + "  " + TwoDigits(now.hour) + ":" + TwoDigits(now.minute) + ":" +
            TwoDigits(now.second);
@@ -29,7 +29,7 @@ std::string DateText() {
 
 void clsWPXWriter::WriteWPXHeader() {
     Procedure("clsWPXWriter.WriteWPXHeader", [&](Frame&) {
-        const ARISDatabase& database = gARISInterface->Database;
+        const ARISDatabase& database = gBlock.gARISInterface->Database;
         WriteText(
             "/*\r\n"
             "*  \r\n"
@@ -40,18 +40,18 @@ void clsWPXWriter::WriteWPXHeader() {
             database->ServerName() +
             "\r\n"
             "*  ARIS Database name = " +
-            database->Name(gLocale) +
+            database->Name(gBlock.gLocale) +
             "\r\n"
             "*  ARIS User name     = " +
-            database->ActiveUser()->Name(gLocale) + "\r\n" +
-            (gIOHandler->MappingProfileFound ? "*  Mapping rules taken from profile "
-                                             : "*  Default mapping rules used ") +
+            database->ActiveUser()->Name(gBlock.gLocale) + "\r\n" +
+            (gBlock.gIOHandler->MappingProfileFound ? "*  Mapping rules taken from profile "
+                                                    : "*  Default mapping rules used ") +
             "\r\n"
             "*  \r\n"
             "*/\r\n"
             "\r\n"
             "CODEPAGE " +
-            std::to_string(gPlatform->codePage.Number()) +
+            std::to_string(gBlock.gPlatform->codePage.Number()) +
             "\r\n"
             "WX_RELEASE V3R2 2");
     });

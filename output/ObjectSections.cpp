@@ -61,8 +61,8 @@ void AddMember(Block& block, const clsDATA_MEMBER& member) {
 }  // namespace
 
 std::int32_t clsWPXWriter::WriteAllDataStructure() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllDataStructure", "DATA_STRUCTUREs", gColDATA_STRUCTURE,
-                        &clsWPXWriter::WriteDataStructure);
+    return WriteSection(*this, "clsWPXWriter.WriteAllDataStructure", "DATA_STRUCTUREs",
+                        gBlock.gColDATA_STRUCTURE, &clsWPXWriter::WriteDataStructure);
 }
 
 void clsWPXWriter::WriteDataStructure(const clsDATA_STRUCTURE& STRUCTURE) {
@@ -77,7 +77,7 @@ void clsWPXWriter::WriteDataStructure(const clsDATA_STRUCTURE& STRUCTURE) {
 
 std::int32_t clsWPXWriter::WriteAllProcessCategory() {
     return WriteSection(*this, "clsWPXWriter.WriteAllProcessCategory", "PROCESS_CATEGORYs",
-                        gColPROCESS_CATEGORY, &clsWPXWriter::WriteProcessCategory);
+                        gBlock.gColPROCESS_CATEGORY, &clsWPXWriter::WriteProcessCategory);
 }
 
 void clsWPXWriter::WriteProcessCategory(const clsPROCESS_CATEGORY& CATEGORY) {
@@ -90,7 +90,7 @@ void clsWPXWriter::WriteProcessCategory(const clsPROCESS_CATEGORY& CATEGORY) {
 }
 
 std::int32_t clsWPXWriter::WriteAllProgram() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllProgram", "PROGRAMs", gColPROGRAM,
+    return WriteSection(*this, "clsWPXWriter.WriteAllProgram", "PROGRAMs", gBlock.gColPROGRAM,
                         &clsWPXWriter::WriteProgram);
 }
 
@@ -106,7 +106,8 @@ void clsWPXWriter::WriteProgram(const clsPROGRAM& PROGRAM) {
 }
 
 std::int32_t clsWPXWriter::WriteAllRole() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllRole", "ROLEs", gColROLE, &clsWPXWriter::WriteRole);
+    return WriteSection(*this, "clsWPXWriter.WriteAllRole", "ROLEs", gBlock.gColROLE,
+                        &clsWPXWriter::WriteRole);
 }
 
 void clsWPXWriter::WriteRole(const clsROLE& ROLE) {
@@ -120,7 +121,7 @@ void clsWPXWriter::WriteRole(const clsROLE& ROLE) {
 }
 
 std::int32_t clsWPXWriter::WriteAllPerson(bool Update) {
-    return WritePass(*this, "clsWPXWriter.WriteAllPerson", "PERSONs", Update, gColPERSON,
+    return WritePass(*this, "clsWPXWriter.WriteAllPerson", "PERSONs", Update, gBlock.gColPERSON,
                      &clsWPXWriter::WritePerson);
 }
 
@@ -142,8 +143,8 @@ void clsWPXWriter::WritePerson(const clsPERSON& PERSON, bool Update) {
 }
 
 std::int32_t clsWPXWriter::WriteAllOrganization(bool Update) {
-    return WritePass(*this, "clsWPXWriter.WriteAllOrganization", "ORGANIZATIONs", Update, gColORGANIZATION,
-                     &clsWPXWriter::WriteOrganization);
+    return WritePass(*this, "clsWPXWriter.WriteAllOrganization", "ORGANIZATIONs", Update,
+                     gBlock.gColORGANIZATION, &clsWPXWriter::WriteOrganization);
 }
 
 void clsWPXWriter::WriteOrganization(const clsORGANIZATION& ORGANIZATION, bool Update) {

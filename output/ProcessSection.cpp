@@ -27,10 +27,10 @@ std::int32_t clsWPXWriter::WriteAllProcess() {
         WriteSectionHeader("PROCESSES");
         std::int32_t count = 0;
         std::uint64_t done = 0;
-        for (const Ref<clsPROCESS>& process : gColPROCESS) {
+        for (const Ref<clsPROCESS>& process : gBlock.gColPROCESS) {
             count += 1 + WriteProcess(*process);
-            gPlatform->progress.Report("writing processes", ++done,
-                                       static_cast<std::uint64_t>(gColPROCESS.Count()));
+            gBlock.gPlatform->progress.Report("writing processes", ++done,
+                                              static_cast<std::uint64_t>(gBlock.gColPROCESS.Count()));
         }
         return count;
     });

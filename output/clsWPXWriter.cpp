@@ -10,7 +10,7 @@
 namespace wxbrg {
 
 void WriteText(const std::string& text) {
-    gIOHandler->WriteFile(text, "");
+    gBlock.gIOHandler->WriteFile(text, "");
 }
 
 void clsWPXWriter::WriteSectionHeader(std::string_view Title) {
@@ -32,8 +32,8 @@ void clsWPXWriter::WriteAll() {
         count += WriteAllOrganization(true);
         count += WriteAllProcess();
         WriteNote(Severity::information, 3110, std::to_string(count));
-        gRunReport.objectsWritten = static_cast<std::uint64_t>(count);
-        gRunReport.processes = static_cast<std::uint64_t>(gColPROCESS.Count());
+        gBlock.gRunReport.objectsWritten = static_cast<std::uint64_t>(count);
+        gBlock.gRunReport.processes = static_cast<std::uint64_t>(gBlock.gColPROCESS.Count());
     });
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 /// The line of one value: the object's type, its name in quotes, and the value.
 std::string AttributeLine(const ARISObjDef& object, std::string_view value) {
-    return "\r\n" + Indent(3) + std::string(object->Type()) + " '" + object->Name(gLocale) + "' " +
+    return "\r\n" + Indent(3) + std::string(object->Type()) + " '" + object->Name(gBlock.gLocale) + "' " +
            std::string(value);
 }
 
@@ -21,11 +21,11 @@ std::string AttributeByRule(const ARISObjDef& object, std::string_view ruleName)
 
 std::string AllAttributes(const ARISObjDef& object) {
     std::string lines;
-    const ARISAttrList attributes = object->AttrList(gLocale);
+    const ARISAttrList attributes = object->AttrList(gBlock.gLocale);
     for (std::int32_t i = 0; i < attributes.Count(); ++i) {
         const ARISAttr attribute = attributes.Get(i);
         if (!attribute->IsMaintained()) continue;
-        const std::string value = attribute->GetValue(gOptRemoveLineBreaks);
+        const std::string value = attribute->GetValue(gBlock.gOptRemoveLineBreaks);
         if (value.empty()) continue;
         lines += AttributeLine(object, "(" + std::string(attribute->Type()) + "): " + value);
     }

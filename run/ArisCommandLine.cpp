@@ -40,9 +40,9 @@ bool IsBlank(const std::u32string& text) {
 
 std::string clsARIS_Interface::GetCommandLine(std::string_view Switch) {
     const NamedScope scope("clsARIS_Interface.GetCommandLine");
-    const std::u32string raw = ToCharacters(gRunRequest->commandLine);
+    const std::u32string raw = ToCharacters(gBlock.gRunRequest->commandLine);
     NarrowTo<std::int16_t>(raw.size());
-    const std::u32string upper = ToCharacters(UpperCase(gRunRequest->commandLine));
+    const std::u32string upper = ToCharacters(UpperCase(gBlock.gRunRequest->commandLine));
     const std::u32string wanted = ToCharacters(Switch);
     std::u32string value;
     for (std::size_t found = upper.find(wanted); found != std::u32string::npos;
@@ -57,13 +57,13 @@ std::string clsARIS_Interface::GetCommandLine(std::string_view Switch) {
 
 void clsARIS_Interface::SaveCommandlineArguments() {
     Procedure("clsARIS_Interface.SaveCommandlineArguments", [&](Frame&) {
-        if (gRunRequest->selection) {
-            const ExportSelection& selection = *gRunRequest->selection;
+        if (gBlock.gRunRequest->selection) {
+            const ExportSelection& selection = *gBlock.gRunRequest->selection;
             sUser = selection.user;
             sDatabase = selection.database;
             sServer = selection.server;
             sRegistry = selection.registry;
-            gLocale = selection.locale;
+            gBlock.gLocale = selection.locale;
             return;
         }
         const auto value = [](std::string_view name) {
@@ -74,7 +74,7 @@ void clsARIS_Interface::SaveCommandlineArguments() {
         sServer = value("/SVR");
         sRegistry = value("/REG");
         sSelection = value("/SEL");
-        gLocale = ToInt16(value("/LOC"), DecimalSeparator());
+        gBlock.gLocale = ToInt16(value("/LOC"), DecimalSeparator());
     });
 }
 

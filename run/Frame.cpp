@@ -18,7 +18,7 @@ namespace {
 void StopInTestBuild([[maybe_unused]] const Failure& failure) {
 #ifdef WXBRG_TEST_BUILD
     std::fprintf(stderr, "slip of the program: warning %d reached the frame of %s outside a step\n",
-                 static_cast<int>(failure.Number), std::string(gCurrentProcedure).c_str());
+                 static_cast<int>(failure.Number), std::string(gBlock.gCurrentProcedure).c_str());
     std::abort();
 #endif
 }
@@ -27,16 +27,16 @@ void StopInTestBuild([[maybe_unused]] const Failure& failure) {
 
 FailureAction Frame::Tail(const Failure& failure) {
     inTail_ = true;
-    if (!gExceptionHandler)
+    if (!gBlock.gExceptionHandler)
         throw std::runtime_error("failure " + std::to_string(failure.Number) + " in " +
-                                 std::string(gCurrentProcedure) + ": " + failure.Description);
+                                 std::string(gBlock.gCurrentProcedure) + ": " + failure.Description);
     if (failure.Number < std::numeric_limits<std::int16_t>::min() ||
         failure.Number > std::numeric_limits<std::int16_t>::max())
         throw Failure(FailureKind::overflow);
     const auto number = static_cast<std::int16_t>(failure.Number);
-    const FailureAction action = gExceptionHandler->AnalyseError(number, failure.Description);
+    const FailureAction action = gBlock.gExceptionHandler->AnalyseError(number, failure.Description);
     if (action == FailureAction::unknown)
-        gExceptionHandler->MercyfulExit(gCurrentProcedure, number, failure.Description);
+        gBlock.gExceptionHandler->MercyfulExit(gBlock.gCurrentProcedure, number, failure.Description);
     if (action == FailureAction::endRun) throw RunEnd{RunEnding::endedByFailure, number};
     inTail_ = false;
     return action;
@@ -77,8 +77,8 @@ void Frame::LeaveByCurrentException() {
     }
     if (Tail(failure) != FailureAction::leave) {
         StopInTestBuild(failure);
-        gExceptionHandler->MercyfulExit(gCurrentProcedure, static_cast<std::int16_t>(failure.Number),
-                                        failure.Description);
+        gBlock.gExceptionHandler->MercyfulExit(
+            gBlock.gCurrentProcedure, static_cast<std::int16_t>(failure.Number), failure.Description);
     }
     Restore();
 }

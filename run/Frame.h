@@ -38,7 +38,9 @@ enum class FailureAction : std::int16_t {
 
 class Frame {
   public:
-    explicit Frame(std::string_view name) : caller_(gCurrentProcedure) { gCurrentProcedure = name; }
+    explicit Frame(std::string_view name) : caller_(gBlock.gCurrentProcedure) {
+        gBlock.gCurrentProcedure = name;
+    }
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
 
@@ -72,11 +74,11 @@ class Frame {
     /// Throws failure 28 when the run's stack is nearly used up.
     static void CheckStack() {
         const auto* const here = static_cast<const char*>(__builtin_frame_address(0));
-        if (gBlock.stackEnd != nullptr && here < gBlock.stackEnd + stackReserve)
+        if (gBlock.gStackEnd != nullptr && here < gBlock.gStackEnd + stackReserve)
             throw Failure(FailureKind::outOfStackSpace);
     }
     void Restore() const {
-        if (!keepName_) gCurrentProcedure = caller_;
+        if (!keepName_) gBlock.gCurrentProcedure = caller_;
     }
     /// Called while an exception that left the body is handled: comes back when the procedure is to be left.
     void LeaveByCurrentException();
@@ -128,12 +130,14 @@ auto Procedure(std::string_view name, Body&& body) -> std::invoke_result_t<Body,
 /// name.
 class NamedScope {
   public:
-    explicit NamedScope(std::string_view name) : caller_(gCurrentProcedure) { gCurrentProcedure = name; }
+    explicit NamedScope(std::string_view name) : caller_(gBlock.gCurrentProcedure) {
+        gBlock.gCurrentProcedure = name;
+    }
     NamedScope(const NamedScope&) = delete;
     NamedScope& operator=(const NamedScope&) = delete;
 
     /// The normal end.
-    void End() const { gCurrentProcedure = caller_; }
+    void End() const { gBlock.gCurrentProcedure = caller_; }
 
   private:
     std::string_view caller_;

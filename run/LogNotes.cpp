@@ -14,8 +14,8 @@ std::string GetNLSMessage(std::int16_t Severity, std::int32_t ID, std::string_vi
 
 void WriteNote(std::int16_t Severity, std::int32_t ID, std::string_view S1, std::string_view S2,
                std::string_view S3, std::string_view S4) {
-    gIOHandler->WriteLog(GetNLSMessage(Severity, ID, S1, S2, S3, S4));
-    CountSeverity(gRunReport.notes, Severity);
+    gBlock.gIOHandler->WriteLog(GetNLSMessage(Severity, ID, S1, S2, S3, S4));
+    CountSeverity(gBlock.gRunReport.notes, Severity);
 }
 
 }  // namespace wxbrg

@@ -23,22 +23,22 @@ void RunToItsEnd(void (*body)()) {
     try {
         body();
     } catch (const RunEnd& end) {
-        gRunReport.ending = end.ending;
-        gRunReport.number = end.number;
-        gRunReport.procedure = gCurrentProcedure;
+        gBlock.gRunReport.ending = end.ending;
+        gBlock.gRunReport.number = end.number;
+        gBlock.gRunReport.procedure = gBlock.gCurrentProcedure;
     } catch (const std::exception& failure) {
-        gRunReport.ending = RunEnding::error;
-        gRunReport.procedure = gCurrentProcedure;
-        gRunReport.error = failure.what();
+        gBlock.gRunReport.ending = RunEnding::error;
+        gBlock.gRunReport.procedure = gBlock.gCurrentProcedure;
+        gBlock.gRunReport.error = failure.what();
     }
 }
 
 void SetupRules() {
     Procedure("modMain.Setup", [](Frame&) {
         if (!LoadLocalizedResources()) throw RunEnd{RunEnding::noLanguageLibrary, 0};
-        gExceptionHandler = gPool.Create<clsExceptionHandler>();
-        gIOHandler = gPool.Create<clsIOHandler>();
-        gIOHandler->ParseMappingFile();
+        gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+        gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
+        gBlock.gIOHandler->ParseMappingFile();
         // Ends here where the rule is missing.
         PROCESS_Find_ARIS_Model_In_ModelCollection_Using_Mapping_Rule({}, processRule);
     });
@@ -48,25 +48,25 @@ void SetupRules() {
 
 RunReport RunExport(const RunRequest& request, Platform& platform, aris::Automation& automation) {
     RenewGlobals();
-    gPlatform = &platform;
-    gAutomation = &automation;
-    gRunRequest = &request;
+    gBlock.gPlatform = &platform;
+    gBlock.gAutomation = &automation;
+    gBlock.gRunRequest = &request;
     OnReservedStack(request.stackSize, [](const char* end) {
-        gBlock.stackEnd = end;
+        gBlock.gStackEnd = end;
         RunToItsEnd(Main);
     });
-    RunReport report = std::move(gRunReport);
+    RunReport report = std::move(gBlock.gRunReport);
     RenewGlobals();
     return report;
 }
 
 ProcessTypes ReadProcessTypes(Platform& platform) {
     RenewGlobals();
-    gPlatform = &platform;
+    gBlock.gPlatform = &platform;
     RunToItsEnd(SetupRules);
-    ProcessTypes result{std::move(gRunReport), {}};
+    ProcessTypes result{std::move(gBlock.gRunReport), {}};
     if (result.report.ending == RunEnding::normal)
-        for (const clsObjectMapping& mapping : gColMappingRule.Item(processRule)->ColObjectMapping)
+        for (const clsObjectMapping& mapping : gBlock.gColMappingRule.Item(processRule)->ColObjectMapping)
             result.types.push_back(mapping.ObjTypeNum);
     RenewGlobals();
     return result;

@@ -10,20 +10,20 @@ namespace wxbrg {
 
 void clsARIS_Interface::RetrieveSelectedARISModels() {
     Procedure("clsARIS_Interface.RetrieveSelectedARISModels", [&](Frame& frame) {
-        oApplication = gAutomation->CreateObject(arisProgramId);
+        oApplication = gBlock.gAutomation->CreateObject(arisProgramId);
         if (!oApplication) frame.Raise(2010);
         oReportComponent = oApplication->GetComponent(arisReportComponent);
         Database = oReportComponent->OpenDatabase(sServer, sDatabase, sRegistry, sUser, "");
         std::string item;
         const bool good = AddSelectedModels(item);
         if (!good || ColSelectedModels.IsEmpty()) frame.Raise(2020, item);
-        gRunReport.modelsSelected = static_cast<std::uint64_t>(ColSelectedModels.Count());
+        gBlock.gRunReport.modelsSelected = static_cast<std::uint64_t>(ColSelectedModels.Count());
     });
 }
 
 bool clsARIS_Interface::AddSelectedModels(std::string& item) {
-    if (gRunRequest->selection) {
-        for (const ARISModel& model : gRunRequest->selection->models)
+    if (gBlock.gRunRequest->selection) {
+        for (const ARISModel& model : gBlock.gRunRequest->selection->models)
             ColSelectedModels.Add(model, model->Guid());
         return true;
     }
@@ -42,7 +42,7 @@ bool clsARIS_Interface::AddSelectedModel(const std::string& item) {
     const std::string type = GetStringListItem(item, 2, ",");
     if (!IsNumeric(type, DecimalSeparator())) return false;
     const std::int32_t typeNum = ToInt32(type, DecimalSeparator());
-    for (const ARISModel& model : Database->FindModels(nameAttribute, typeNum, 1, gLocale, name, 0)) {
+    for (const ARISModel& model : Database->FindModels(nameAttribute, typeNum, 1, gBlock.gLocale, name, 0)) {
         if (model->Guid() != guid) continue;
         ColSelectedModels.Add(model, guid);
         break;

@@ -72,7 +72,7 @@ void CountSeverity(SeverityCounts& counts, std::int32_t severity) {
 }
 
 clsExceptionHandler::clsExceptionHandler() {
-    gFailureContext = "";
+    gBlock.gFailureContext = "";
 }
 
 FailureAction clsExceptionHandler::AnalyseError(std::int16_t Number, const std::string& Description) {
@@ -81,16 +81,16 @@ FailureAction clsExceptionHandler::AnalyseError(std::int16_t Number, const std::
     bool otherwise = false;
     switch (policy->box) {
         case BoxForm::failure:
-            ShowNumbered(Header(1000, gCurrentProcedure) + Body(Description), Severity::critical, Number,
-                         BoxStyle::ok);
+            ShowNumbered(Header(1000, gBlock.gCurrentProcedure) + Body(Description), Severity::critical,
+                         Number, BoxStyle::ok);
             break;
         case BoxForm::warning:
-            ShowNumbered(Header(1010, gCurrentProcedure) + Body(Description), Severity::exclamation, Number,
-                         BoxStyle::ok);
+            ShowNumbered(Header(1010, gBlock.gCurrentProcedure) + Body(Description), Severity::exclamation,
+                         Number, BoxStyle::ok);
             break;
         case BoxForm::question:
-            otherwise = ShowNumbered(Header(1010, gCurrentProcedure) + Question(), Severity::question, Number,
-                                     BoxStyle::yesNo) != BoxAnswer::yes;
+            otherwise = ShowNumbered(Header(1010, gBlock.gCurrentProcedure) + Question(), Severity::question,
+                                     Number, BoxStyle::yesNo) != BoxAnswer::yes;
             break;
     }
     return static_cast<FailureAction>(otherwise ? policy->otherwise : policy->answer);
@@ -111,8 +111,8 @@ std::string clsExceptionHandler::FormatMessageID(std::int16_t Severity, std::int
 }
 
 BoxAnswer clsExceptionHandler::ShowMessageBox(std::string_view Text, std::int32_t Buttons) {
-    CountSeverity(gRunReport.boxes, Buttons & BoxStyle::severity);
-    return gPlatform->messageBox.Show(productName, Text, Buttons);
+    CountSeverity(gBlock.gRunReport.boxes, Buttons & BoxStyle::severity);
+    return gBlock.gPlatform->messageBox.Show(productName, Text, Buttons);
 }
 
 }  // namespace wxbrg

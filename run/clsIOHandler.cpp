@@ -80,7 +80,7 @@ void clsIOHandler::WriteFile(const std::string& Text, const std::string& FileNam
         std::int16_t number = 0;
         OpenFile(NameOr(FileName), FileMode::append, number);
         if (number == 0) return;
-        openFiles_.at(number)->Write(gPlatform->codePage.ToBytes(Text).append(lineEnd));
+        openFiles_.at(number)->Write(gBlock.gPlatform->codePage.ToBytes(Text).append(lineEnd));
         CloseFile(number);
     });
 }
@@ -92,7 +92,7 @@ std::string clsIOHandler::ReadFile(const std::string& FileName) {
         if (number == 0) return std::string();
         const std::string bytes = openFiles_.at(number)->ReadAll();
         CloseFile(number);
-        if (!bytes.starts_with(utf8Mark)) return WithLineEnds(gPlatform->codePage.ToText(bytes));
+        if (!bytes.starts_with(utf8Mark)) return WithLineEnds(gBlock.gPlatform->codePage.ToText(bytes));
         return WithLineEnds(ValidUtf8(std::string_view(bytes).substr(utf8Mark.size())));
     });
 }
@@ -101,7 +101,7 @@ void clsIOHandler::OpenFile(const std::string& FileName, std::int16_t Mode, std:
     Procedure("clsIOHandler.OpenFile", [&](Frame&) {
         std::int16_t number = 1;
         while (openFiles_.contains(number)) ++number;
-        openFiles_[number] = gPlatform->fileSystem.Open(FileName, AccessOf(Mode));
+        openFiles_[number] = gBlock.gPlatform->fileSystem.Open(FileName, AccessOf(Mode));
         FileNumber = number;
     });
 }
@@ -118,13 +118,13 @@ void clsIOHandler::CloseFile(std::int16_t FileNumber) {
 
 bool clsIOHandler::FileExists(const std::string& FileName) {
     return Procedure("clsIOHandler.FileExists", [&](Frame&) {
-        gFailureContext = "Open file";
+        gBlock.gFailureContext = "Open file";
         try {
-            gPlatform->fileSystem.Open(FileName, FileAccess::read)->Close();
+            gBlock.gPlatform->fileSystem.Open(FileName, FileAccess::read)->Close();
             return true;
         } catch (const Failure& failure) {
             if (failure.Number != FailureKind::fileNotFound) throw;
-            gFailureContext = "failed";
+            gBlock.gFailureContext = "failed";
             return false;
         }
     });
@@ -134,7 +134,7 @@ std::string clsIOHandler::AskOutputFile(Frame& frame) {
     const FileDialogSettings settings = DialogSettings();
     std::string name;
     frame.Step([&] {
-        std::optional<std::string> chosen = gPlatform->fileDialog.AskSaveName(settings);
+        std::optional<std::string> chosen = gBlock.gPlatform->fileDialog.AskSaveName(settings);
         if (!chosen) throw Failure(CancelNumber::fileDialog);
         name = std::move(*chosen);
     });

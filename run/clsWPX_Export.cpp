@@ -18,15 +18,15 @@ namespace wxbrg {
 
 void clsWPX_Export::Run() {
     Procedure("clsWPX_Export.Run", [&](Frame&) {
-        if (!gOptionsForm) gOptionsForm = gPool.Create<frmExportOptions>();
-        gOptionsForm->ShowModal();
-        gDataStructureNamePrefix = "DATA_STRUCTURE_";
-        gNextDataStructureSuffix = gOptFirstSuffixNumber;
-        gIOHandler->FileSelectDialog();
-        gIOHandler->ParseMappingFile();
-        Collection<ARISModel> pending = CreateWPXObjects(gARISInterface->ColSelectedModels);
+        if (!gBlock.gOptionsForm) gBlock.gOptionsForm = gBlock.gPool.Create<frmExportOptions>();
+        gBlock.gOptionsForm->ShowModal();
+        gBlock.gDataStructureNamePrefix = "DATA_STRUCTURE_";
+        gBlock.gNextDataStructureSuffix = gBlock.gOptFirstSuffixNumber;
+        gBlock.gIOHandler->FileSelectDialog();
+        gBlock.gIOHandler->ParseMappingFile();
+        Collection<ARISModel> pending = CreateWPXObjects(gBlock.gARISInterface->ColSelectedModels);
         while (!pending.IsEmpty()) pending = CreateWPXObjects(pending);
-        gWPXWriter->WriteAll();
+        gBlock.gWPXWriter->WriteAll();
     });
 }
 

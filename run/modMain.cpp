@@ -15,7 +15,7 @@ namespace wxbrg {
 void Main() {
     Procedure("modMain.Main", [](Frame&) {
         Setup();
-        gWPXExport->Run();
+        gBlock.gWPXExport->Run();
         Shutdown();
     });
 }
@@ -23,35 +23,35 @@ void Main() {
 void Setup() {
     Procedure("modMain.Setup", [](Frame&) {
         if (!LoadLocalizedResources()) throw RunEnd{RunEnding::noLanguageLibrary, 0};
-        gExceptionHandler = gPool.Create<clsExceptionHandler>();
-        gARISInterface = gPool.Create<clsARIS_Interface>();
-        gIOHandler = gPool.Create<clsIOHandler>();
-        gWPXExport = gPool.Create<clsWPX_Export>();
-        gWPXWriter = gPool.Create<clsWPXWriter>();
-        gStructureIndex = gPool.Create<StructureIndex>();
-        gARISInterface->SaveCommandlineArguments();
-        gARISInterface->RetrieveSelectedARISModels();
+        gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+        gBlock.gARISInterface = gBlock.gPool.Create<clsARIS_Interface>();
+        gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
+        gBlock.gWPXExport = gBlock.gPool.Create<clsWPX_Export>();
+        gBlock.gWPXWriter = gBlock.gPool.Create<clsWPXWriter>();
+        gBlock.gStructureIndex = gBlock.gPool.Create<StructureIndex>();
+        gBlock.gARISInterface->SaveCommandlineArguments();
+        gBlock.gARISInterface->RetrieveSelectedARISModels();
     });
 }
 
 void Shutdown() {
     Procedure("modMain.Shutdown", [](Frame&) {
-        gColMappingRule = {};
-        gColDATA_MEMBER = {};
-        gColDATA_STRUCTURE = {};
-        gStructureIndex = nullptr;
-        gColORGANIZATION = {};
-        gColPERSON = {};
-        gColPROCESS = {};
-        gColPROCESS_CATEGORY = {};
-        gColPROGRAM = {};
-        gColROLE = {};
-        gWPXWriter = nullptr;
-        gWPXExport = nullptr;
-        gIOHandler = nullptr;
-        gARISInterface = nullptr;
-        gExceptionHandler = nullptr;
-        gResourceLibrary.reset();
+        gBlock.gColMappingRule = {};
+        gBlock.gColDATA_MEMBER = {};
+        gBlock.gColDATA_STRUCTURE = {};
+        gBlock.gStructureIndex = nullptr;
+        gBlock.gColORGANIZATION = {};
+        gBlock.gColPERSON = {};
+        gBlock.gColPROCESS = {};
+        gBlock.gColPROCESS_CATEGORY = {};
+        gBlock.gColPROGRAM = {};
+        gBlock.gColROLE = {};
+        gBlock.gWPXWriter = nullptr;
+        gBlock.gWPXExport = nullptr;
+        gBlock.gIOHandler = nullptr;
+        gBlock.gARISInterface = nullptr;
+        gBlock.gExceptionHandler = nullptr;
+        gBlock.gResourceLibrary.reset();
     });
 }
 

@@ -57,20 +57,20 @@ RunReport SilentRun::Export(aris::Automation& automation, std::vector<ARISModel>
 
 void SilentRun::Begin() {
     RenewGlobals();
-    gPlatform = &platform_;
+    gBlock.gPlatform = &platform_;
     LoadLocalizedResources();
-    gExceptionHandler = gPool.Create<clsExceptionHandler>();
-    gIOHandler = gPool.Create<clsIOHandler>();
-    gIOHandler->sOutputFileName = output_;
-    gIOHandler->sLogFileName = logInMemory;
-    gIOHandler->AllocateFile(logInMemory);
-    gStructureIndex = gPool.Create<StructureIndex>();
-    gLocale = english;
-    gDataStructureNamePrefix = "DATA_STRUCTURE_";
+    gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+    gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
+    gBlock.gIOHandler->sOutputFileName = output_;
+    gBlock.gIOHandler->sLogFileName = logInMemory;
+    gBlock.gIOHandler->AllocateFile(logInMemory);
+    gBlock.gStructureIndex = gBlock.gPool.Create<StructureIndex>();
+    gBlock.gLocale = english;
+    gBlock.gDataStructureNamePrefix = "DATA_STRUCTURE_";
     for (const ExportOption& option : exportOptions)
         if (option.flag != nullptr) gBlock.*option.flag = option.ByDefault() != 0;
     CreateDefaultMappingRules();
-    gCurrentProcedure = "modMain.Main";
+    gBlock.gCurrentProcedure = "modMain.Main";
 }
 
 std::vector<std::string> SilentRun::LogLines() const {

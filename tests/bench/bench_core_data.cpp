@@ -61,9 +61,10 @@ void EqualStructures(benchmark::State& state) {
         run.Begin();
         state.ResumeTiming();
         for (const Collection<ARISObjDef>& pair : pairs) DATA_STRUCTURE_Generate(pair);
-        const std::int32_t structures = gColDATA_STRUCTURE.Count();
+        const std::int32_t structures = gBlock.gColDATA_STRUCTURE.Count();
         for (const Collection<ARISObjDef>& pair : pairs) DATA_STRUCTURE_Generate(pair);
-        if (gColDATA_STRUCTURE.Count() != structures) state.SkipWithError("an equal structure was not found");
+        if (gBlock.gColDATA_STRUCTURE.Count() != structures)
+            state.SkipWithError("an equal structure was not found");
     }
     state.SetComplexityN(state.range(0));
 }
@@ -71,7 +72,7 @@ void EqualStructures(benchmark::State& state) {
 using FindStructure = Ref<clsDATA_STRUCTURE> (*)(const Collection<ARISObjDef>& members);
 
 Ref<clsDATA_STRUCTURE> ByIndex(const Collection<ARISObjDef>& members) {
-    return gStructureIndex->Find(members, nullptr);
+    return gBlock.gStructureIndex->Find(members, nullptr);
 }
 Ref<clsDATA_STRUCTURE> ByWalk(const Collection<ARISObjDef>& members) {
     return StructureIndex::FindByWalk(members, nullptr);

@@ -97,7 +97,7 @@ void ProcessOfDataConnectors(benchmark::State& state) {
 
 /// The process of a drawing, registered and empty.
 clsPROCESS& EmptyProcess(const Drawing& drawing) {
-    const Ref<clsPROCESS> process = gPool.Create<clsPROCESS>();
+    const Ref<clsPROCESS> process = gBlock.gPool.Create<clsPROCESS>();
     process->ARIS_Model = drawing.process;
     process->ARIS_Group = drawing.group;
     return *process;
@@ -135,7 +135,7 @@ void BoundaryConnectors(benchmark::State& state) {
 void FillConnector(benchmark::State& state, Drawing& drawing, const Ends& ends, bool hasDescription) {
     SilentRun run;
     run.Begin();
-    const Ref<clsPROCESS> process = gPool.Create<clsPROCESS>();
+    const Ref<clsPROCESS> process = gBlock.gPool.Create<clsPROCESS>();
     process->ARIS_Model = drawing.process;
     process->MinXPos = process->MinYPos = 0;
     process->LayoutConversionFinished = true;

@@ -97,7 +97,7 @@ void TooDeepBehindDiamonds(benchmark::State& state) {
         last = next;
     }
     for (auto unused : state) {
-        gRelatedSearchDepth = 0;
+        gBlock.gRelatedSearchDepth = 0;
         std::int32_t number = 0;
         try {
             Collection<ARISObjDef> found;

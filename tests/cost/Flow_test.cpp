@@ -43,7 +43,7 @@ std::uint64_t QuestionsOfBoundaryConnectors(std::int64_t functions) {
     }
     SilentRun run;
     run.Begin();
-    const Ref<clsPROCESS> process = gPool.Create<clsPROCESS>();
+    const Ref<clsPROCESS> process = gBlock.gPool.Create<clsPROCESS>();
     process->ARIS_Model = drawing.process;
     DATA_CONNECTOR_Find_ARIS_Mapping(*process);
     EXPECT_EQ(process->Col_DATA_CONNECTOR.Count(), 2 * functions);

@@ -27,8 +27,8 @@ TEST_F(CategoriesTest, ACategoryBeginsEmpty) {
 TEST_F(CategoriesTest, TwoModelsOfOneGroupGiveOneCategory) {
     const Ref<FakeModel> second = repository.Model(processType, "Second", group);
     PROCESS_CATEGORY_Create(ModelsOf({model, second}));
-    ASSERT_EQ(gColPROCESS_CATEGORY.Count(), 1);
-    EXPECT_EQ(gColPROCESS_CATEGORY.Item(group->Guid())->ARIS_Group, ARISGroup(group));
+    ASSERT_EQ(gBlock.gColPROCESS_CATEGORY.Count(), 1);
+    EXPECT_EQ(gBlock.gColPROCESS_CATEGORY.Item(group->Guid())->ARIS_Group, ARISGroup(group));
     EXPECT_THAT(Notes(), ElementsAre("I3040|Sales", "I3090|PROCESS_CATEGORY|'Sales'"));
 }
 
@@ -36,7 +36,7 @@ TEST_F(CategoriesTest, ALaterBatchNotesTheGroupAgainAndFillsNothingTwice) {
     PROCESS_CATEGORY_Create(ModelsOf({model}));
     ForgetNotes();
     PROCESS_CATEGORY_Create(ModelsOf({ModelIn("New"), repository.Model(processType, "Second", group)}));
-    EXPECT_EQ(gColPROCESS_CATEGORY.Count(), 2);
+    EXPECT_EQ(gBlock.gColPROCESS_CATEGORY.Count(), 2);
     EXPECT_THAT(Notes(), ElementsAre("I3040|New", "I3040|Sales", "I3090|PROCESS_CATEGORY|'New'"));
 }
 
@@ -52,15 +52,15 @@ TEST_F(CategoriesTest, GroupsComeInTheOrderOfTheirFirstModel) {
 
 TEST_F(CategoriesTest, NoModelsGiveNoCategory) {
     PROCESS_CATEGORY_Create({});
-    EXPECT_TRUE(gColPROCESS_CATEGORY.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPROCESS_CATEGORY.IsEmpty());
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
 TEST_F(CategoriesTest, AGroupWithoutANameIsKeptWithAnEmptyName) {
     PROCESS_CATEGORY_Create(ModelsOf({ModelIn("")}));
-    ASSERT_EQ(gColPROCESS_CATEGORY.Count(), 1);
-    EXPECT_EQ(gColPROCESS_CATEGORY.Item(1)->ObjectName, "");
-    EXPECT_TRUE(gColPROCESS_CATEGORY.Item(1)->SetupFinished);
+    ASSERT_EQ(gBlock.gColPROCESS_CATEGORY.Count(), 1);
+    EXPECT_EQ(gBlock.gColPROCESS_CATEGORY.Item(1)->ObjectName, "");
+    EXPECT_TRUE(gBlock.gColPROCESS_CATEGORY.Item(1)->SetupFinished);
     EXPECT_THAT(Notes(), ElementsAre("I3040", "I3090|PROCESS_CATEGORY"));
 }
 
@@ -69,7 +69,7 @@ TEST_F(CategoriesTest, TextsAreReadFromTheGroupAndConverted) {
     described->Set(9, "what\tit is");
     described->Set(8, "one\r\ntwo");
     PROCESS_CATEGORY_Create(ModelsOf({repository.Model(processType, "Model", described)}));
-    const Ref<clsPROCESS_CATEGORY> category = gColPROCESS_CATEGORY.Item(1);
+    const Ref<clsPROCESS_CATEGORY> category = gBlock.gColPROCESS_CATEGORY.Item(1);
     EXPECT_EQ(category->ObjectName, "'No_ 1'");
     EXPECT_EQ(category->DESCRIPTION, "'what it is'");
     EXPECT_EQ(category->DOCUMENTATION, "'one two'");
@@ -78,10 +78,10 @@ TEST_F(CategoriesTest, TextsAreReadFromTheGroupAndConverted) {
 TEST_F(CategoriesTest, TextsAreGatedByTheirOptions) {
     group->Set(9, "description");
     group->Set(8, "documentation");
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = false;
     PROCESS_CATEGORY_Create(ModelsOf({model}));
-    EXPECT_EQ(gColPROCESS_CATEGORY.Item(1)->DESCRIPTION, "");
-    EXPECT_EQ(gColPROCESS_CATEGORY.Item(1)->DOCUMENTATION, "");
+    EXPECT_EQ(gBlock.gColPROCESS_CATEGORY.Item(1)->DESCRIPTION, "");
+    EXPECT_EQ(gBlock.gColPROCESS_CATEGORY.Item(1)->DOCUMENTATION, "");
 }
 
 TEST_F(CategoriesTest, AnAttributeOfAGroupIsEmptyUnlessItIsMaintained) {
@@ -91,12 +91,12 @@ TEST_F(CategoriesTest, AnAttributeOfAGroupIsEmptyUnlessItIsMaintained) {
     EXPECT_EQ(PROCESS_CATEGORY_Find_ARIS_Group_Attribute(group, 9), "");
     EXPECT_EQ(PROCESS_CATEGORY_Find_ARIS_Group_Attribute(group, 10), "");
     EXPECT_EQ(PROCESS_CATEGORY_Find_ARIS_Group_Attribute(group, -1), "Sales");
-    gOptRemoveLineBreaks = false;
+    gBlock.gOptRemoveLineBreaks = false;
     EXPECT_EQ(PROCESS_CATEGORY_Find_ARIS_Group_Attribute(group, 8), "one\r\ntwo");
 }
 
 TEST_F(CategoriesTest, AMissingRuleEndsTheRun) {
-    gColMappingRule.Remove("PROCESS_CATEGORY_ObjectName");
+    gBlock.gColMappingRule.Remove("PROCESS_CATEGORY_ObjectName");
     EXPECT_EQ(EndOf([&] {
                   PROCESS_CATEGORY_Create(ModelsOf({model}));
               }),

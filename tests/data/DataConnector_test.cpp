@@ -26,7 +26,7 @@ class DataConnectorTest : public CoreTest {
     /// A connector of a process that has just its activities.
     Ref<clsDATA_CONNECTOR> Connector(std::int32_t kind, const ARISObjDef& from, const ARISObjDef& to) {
         if (!process) process = ProcessWithActivities();
-        const Ref<clsDATA_CONNECTOR> connector = gPool.Create<clsDATA_CONNECTOR>();
+        const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
         connector->ConnectorKind = kind;
         connector->FROM_ARISObjectDefinition = from;
         connector->TO_ARISObjectDefinition = to;
@@ -65,7 +65,7 @@ TEST_F(DataConnectorTest, OneStructureAtBothEndsIsMappedWhole) {
     const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), ElementsAre("MAP '_STRUCT' TO '_STRUCT'"));
-    EXPECT_EQ(gFailureContext, "");
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 TEST_F(DataConnectorTest, AMappedSourceGoesIntoTheMemberThatStandsForIt) {
@@ -115,7 +115,7 @@ TEST_F(DataConnectorTest, BetweenGeneratedStructuresTheCommonMembersAreMappedInT
     const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), ElementsAre("MAP 'y' TO 'y'", "MAP 'x' TO 'x'"));
-    EXPECT_EQ(gFailureContext, "");
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 TEST_F(DataConnectorTest, GeneratedStructuresWithoutACommonMemberAreNotMapped) {
@@ -207,7 +207,7 @@ TEST_F(DataConnectorTest, TheBendPointIsTheMeanOfTheEndsAndTheDataOnTheFirstPath
 }
 
 TEST_F(DataConnectorTest, TheOptionGatesBendPointsButNotSourcesAndSinks) {
-    gOptUseDataConBendPoints = false;
+    gBlock.gOptUseDataConBendPoints = false;
     const Ref<FakeObject> data = Data("d", 530, 200);
     Writes(a, data);
     Reads(b, data);
@@ -260,7 +260,7 @@ TEST_F(DataConnectorTest, TheDescriptionGathersThoseOfTheDataByTheRuleOfControlC
     connector->FindARISObjectDefinitionsOnConnectorPaths();
     connector->SetupProperty_DESCRIPTION();
     EXPECT_EQ(connector->DESCRIPTION, "'\r\n   T19 ''d'' what'");
-    gOptUseDescriptionAttr = false;
+    gBlock.gOptUseDescriptionAttr = false;
     connector->DESCRIPTION = "";
     connector->SetupProperty_DESCRIPTION();
     EXPECT_EQ(connector->DESCRIPTION, "");

@@ -248,14 +248,14 @@ TEST_F(DataFlowLoopsTest, ARingIsToldOnceForTheConnectorThatClosesIt) {
 }
 
 TEST_F(DataFlowLoopsTest, WithTheOptionOffNothingIsTold) {
-    gOptFindDataFlowLoops = false;
+    gBlock.gOptFindDataFlowLoops = false;
     Ring({a, b, a});
     Find();
     EXPECT_THAT(Notes(3140), IsEmpty());
 }
 
 TEST_F(DataFlowLoopsTest, TheOptionOfTheControlFlowPlaysNoPart) {
-    gOptFindControlFlowLoops = false;
+    gBlock.gOptFindControlFlowLoops = false;
     Ring({a, b, a});
     Find();
     EXPECT_THAT(Notes(3140), ElementsAre("E3140|T22|B|T22|A"));

@@ -30,7 +30,7 @@ class EquivalentStructuresTest : public CoreTest {
     }
     static std::vector<std::string> StructureNames() {
         std::vector<std::string> names;
-        for (const Ref<clsDATA_STRUCTURE>& structure : gColDATA_STRUCTURE)
+        for (const Ref<clsDATA_STRUCTURE>& structure : gBlock.gColDATA_STRUCTURE)
             names.push_back(structure->ObjectName);
         return names;
     }
@@ -61,8 +61,8 @@ TEST_F(EquivalentStructuresTest, AGeneratedStructureInFrontOfAllMappedOnesStands
     EntityWith(model, "Equal", {b, a});
     ForgetNotes();
     DATA_STRUCTURE_Create(ModelsOf({model}));
-    EXPECT_EQ(gColDATA_STRUCTURE.Count(), 1);
-    EXPECT_EQ(gColDATA_STRUCTURE.Item(1), generated);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Count(), 1);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Item(1), generated);
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
@@ -83,7 +83,7 @@ TEST_F(EquivalentStructuresTest, TheFirstMappedObjectOfALaterBatchIsItsOwnEqual)
     DATA_STRUCTURE_Create(ModelsOf({model}));
     ForgetNotes();
     DATA_STRUCTURE_Create(ModelsOf({second}));
-    EXPECT_EQ(gColDATA_STRUCTURE.Count(), 2);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Count(), 2);
     // At the other one the search stops at the first, so that it is noted again.
     EXPECT_THAT(Notes(), ElementsAre("I3060|Other|T17|DATA_STRUCTURE"));
 }
@@ -93,15 +93,16 @@ TEST_F(EquivalentStructuresTest, AnObjectIsNotItsOwnEqualBeforeItIsFilled) {
     DATA_STRUCTURE_Find_ARIS_Mapping(ModelsOf({model}));
     EXPECT_FALSE(DATA_STRUCTURE_FindEquivalentStructure(ObjectsOf({a}), first));
     DATA_STRUCTURE_SetupProperties();
-    EXPECT_EQ(DATA_STRUCTURE_FindEquivalentStructure(ObjectsOf({a}), first), gColDATA_STRUCTURE.Item(1));
+    EXPECT_EQ(DATA_STRUCTURE_FindEquivalentStructure(ObjectsOf({a}), first),
+              gBlock.gColDATA_STRUCTURE.Item(1));
 }
 
 TEST_F(EquivalentStructuresTest, AllMembersOfAMappedStructureAreThatStructure) {
     EntityWith(model, "First", {a});
     const Ref<FakeObject> order = EntityWith(model, "Order", {a, b});
     DATA_STRUCTURE_Create(ModelsOf({model}));
-    EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({b, a})), gColDATA_STRUCTURE.Item(order->Guid()));
-    EXPECT_EQ(gNextDataStructureSuffix, 0);
+    EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({b, a})), gBlock.gColDATA_STRUCTURE.Item(order->Guid()));
+    EXPECT_EQ(gBlock.gNextDataStructureSuffix, 0);
 }
 
 TEST_F(EquivalentStructuresTest, SomeOfTheMembersAreNot) {
@@ -158,7 +159,7 @@ TEST_F(EquivalentStructuresTest, AnObjectWhoseGuidDiffersInCaseAloneFromAMappedO
     DATA_STRUCTURE_Create(ModelsOf({second}));
     EXPECT_THAT(StructureNames(), ElementsAre("'Lower'"));
     EXPECT_THAT(Notes(), ElementsAre("I3060|Upper|T17|DATA_STRUCTURE"));
-    EXPECT_EQ(DATA_STRUCTURE_Add_ARIS_Mapping(upper), gColDATA_STRUCTURE.Item(1));
+    EXPECT_EQ(DATA_STRUCTURE_Add_ARIS_Mapping(upper), gBlock.gColDATA_STRUCTURE.Item(1));
 }
 
 /// A cluster that contains itself, as a member of a cluster.
@@ -178,21 +179,21 @@ TEST_F(SelfContainingDataTest, LeavesAnEmptyEntryInTheStructureThatAskedForIt) {
     ASSERT_EQ(structure->ColDATA_MEMBER.Count(), 1);
     EXPECT_FALSE(structure->ColDATA_MEMBER.Item(1));
     EXPECT_NE(structure->ColDATA_MEMBER.Find(self->Guid()), nullptr);
-    EXPECT_TRUE(gColDATA_MEMBER.Item(self->Guid())->IsDataStructure);
-    EXPECT_EQ(gColDATA_STRUCTURE.Item(self->Guid())->ColDATA_MEMBER.Count(), 1);
+    EXPECT_TRUE(gBlock.gColDATA_MEMBER.Item(self->Guid())->IsDataStructure);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Item(self->Guid())->ColDATA_MEMBER.Count(), 1);
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(SelfContainingDataTest, IsAMemberLikeAnyOtherOnceItHasAStructure) {
     DATA_STRUCTURE_Add_ARIS_Mapping(self);
     const Ref<clsDATA_STRUCTURE> structure = DATA_STRUCTURE_Add_ARIS_Mapping(outer);
-    EXPECT_EQ(structure->ColDATA_MEMBER.Item(1), gColDATA_MEMBER.Item(self->Guid()));
+    EXPECT_EQ(structure->ColDATA_MEMBER.Item(1), gBlock.gColDATA_MEMBER.Item(self->Guid()));
 }
 
 TEST_F(SelfContainingDataTest, LeavesTheNameOfTheProcedureThatMetIt) {
     Procedure("modTest.Caller", [&](Frame&) {
         EXPECT_FALSE(DATA_MEMBER_Add_ARIS_Mapping(self));
-        EXPECT_EQ(gCurrentProcedure, "modDATA_MEMBER.DATA_MEMBER_Add_ARIS_Mapping");
+        EXPECT_EQ(gBlock.gCurrentProcedure, "modDATA_MEMBER.DATA_MEMBER_Add_ARIS_Mapping");
     });
 }
 
@@ -209,7 +210,7 @@ TEST_F(SelfContainingDataTest, EndsTheRunWhereTheEmptyEntryIsCompared) {
 TEST_F(SelfContainingDataTest, IsNotComparedWhereTheNumbersDiffer) {
     DATA_STRUCTURE_Add_ARIS_Mapping(outer);
     EXPECT_TRUE(DATA_STRUCTURE_Generate(ObjectsOf({a, b}))->IsGenerated);
-    EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({b, a})), gColDATA_STRUCTURE.Item(3));
+    EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({b, a})), gBlock.gColDATA_STRUCTURE.Item(3));
 }
 
 TEST_F(SelfContainingDataTest, MayDoSoOverOthers) {
@@ -258,7 +259,7 @@ class StructureIndexPropertyTest : public CoreTest {
             entities[static_cast<std::size_t>(Below(static_cast<int>(entities.size())))];
         for (const ARISObjDef& object : {ARISObjDef(), ARISObjDef(entity)}) {
             const Ref<clsDATA_STRUCTURE> walked = StructureIndex::FindByWalk(some, object);
-            EXPECT_EQ(gStructureIndex->Find(some, object), walked);
+            EXPECT_EQ(gBlock.gStructureIndex->Find(some, object), walked);
             if (walked) ++equal;
         }
     }
@@ -269,9 +270,9 @@ class StructureIndexPropertyTest : public CoreTest {
 
 TEST_F(StructureIndexPropertyTest, AnswersAsAWalkOverAllStructuresDoes) {
     for (int round = 0; round < 100 && !HasFailure(); ++round) {
-        gColDATA_STRUCTURE = {};
-        gColDATA_MEMBER = {};
-        gStructureIndex = gPool.Create<StructureIndex>();
+        gBlock.gColDATA_STRUCTURE = {};
+        gBlock.gColDATA_MEMBER = {};
+        gBlock.gStructureIndex = gBlock.gPool.Create<StructureIndex>();
         std::vector<Ref<FakeObject>> members;
         for (int i = 0; i < 3; ++i) members.push_back(Drawn(ObjectType::entityType, "E"));
         for (const char* guid : {"{e}", "{E}"}) {

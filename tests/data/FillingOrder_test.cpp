@@ -47,14 +47,14 @@ TEST_F(FillingOrderTest, OfAProgramIsTextsThenInputThenOutput) {
 
 TEST_F(FillingOrderTest, OfAProgramHasTheSettingsBehindTheTextsAndInFrontOfTheContainers) {
     const Ref<FakeObject> program = Program();
-    gOptUseOtherSettings = true;
-    gColMappingRule.Remove("PROGRAM_OTHER_SETTINGS");
+    gBlock.gOptUseOtherSettings = true;
+    gBlock.gColMappingRule.Remove("PROGRAM_OTHER_SETTINGS");
     EXPECT_EQ(EndOf([&] {
                   PROGRAM_Add_ARIS_Mapping(program);
               }),
               2100);
     EXPECT_THAT(Notes(), ElementsAre("I3100|A.B|A_B", "I3100|what\t|what", "I3100|how\t|how"));
-    EXPECT_TRUE(gColDATA_STRUCTURE.IsEmpty());
+    EXPECT_TRUE(gBlock.gColDATA_STRUCTURE.IsEmpty());
 }
 
 TEST_F(FillingOrderTest, OfAStructureIsTextsThenMembers) {
@@ -76,8 +76,8 @@ TEST_F(FillingOrderTest, OfAMemberIsNameThenTypeThenTexts) {
 }
 
 TEST_F(FillingOrderTest, OfAMemberHasTheSizeBehindTheTypeAndInFrontOfTheTexts) {
-    gOptUseOtherSettings = true;
-    gColMappingRule.Remove("DATA_MEMBER_SIZE_OF_ARRAY");
+    gBlock.gOptUseOtherSettings = true;
+    gBlock.gColMappingRule.Remove("DATA_MEMBER_SIZE_OF_ARRAY");
     EXPECT_EQ(
         EndOf([&] {
             DATA_MEMBER_Add_ARIS_Mapping(Described(Drawn(ObjectType::ermAttribute, "a")->With(494, "Real")));
@@ -123,8 +123,8 @@ TEST_F(FillingOrderTest, OfAPersonIsFieldsThenRelationsThenTheDescription) {
 }
 
 TEST_F(FillingOrderTest, OfAPersonHasTheSettingsLast) {
-    gOptUseOtherSettings = true;
-    gColMappingRule.Remove("PERSON_OTHER_SETTINGS");
+    gBlock.gOptUseOtherSettings = true;
+    gBlock.gColMappingRule.Remove("PERSON_OTHER_SETTINGS");
     EXPECT_EQ(EndOf([&] {
                   PERSON_Add_ARIS_Mapping(Described(Drawn(ObjectType::person, "JO")));
               }),
@@ -135,9 +135,9 @@ TEST_F(FillingOrderTest, OfAPersonHasTheSettingsLast) {
 }
 
 TEST_F(FillingOrderTest, WithoutOtherSettingsTheirRulesAreNotAskedFor) {
-    gOptUseOtherSettings = false;
+    gBlock.gOptUseOtherSettings = false;
     for (const char* rule : {"PROGRAM_OTHER_SETTINGS", "PERSON_OTHER_SETTINGS", "DATA_MEMBER_SIZE_OF_ARRAY"})
-        gColMappingRule.Remove(rule);
+        gBlock.gColMappingRule.Remove(rule);
     PROGRAM_Add_ARIS_Mapping(Program());
     PERSON_Add_ARIS_Mapping(Drawn(ObjectType::person, "JO"));
     EXPECT_THAT(Boxes(), IsEmpty());

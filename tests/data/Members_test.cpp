@@ -43,7 +43,7 @@ TEST_F(MembersTest, AMemberIsFilledAndNotedWhenItIsMade) {
     EXPECT_EQ(member->DOCUMENTATION, "'how'");
     EXPECT_EQ(member->DataType, "STRING");
     EXPECT_TRUE(member->SetupFinished);
-    EXPECT_EQ(gColDATA_MEMBER.Item(object->Guid()), member);
+    EXPECT_EQ(gBlock.gColDATA_MEMBER.Item(object->Guid()), member);
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|_No. 1|T19|DATA_MEMBER"));
     EXPECT_THAT(Notes(3090), IsEmpty());
     ForgetNotes();
@@ -52,7 +52,7 @@ TEST_F(MembersTest, AMemberIsFilledAndNotedWhenItIsMade) {
 }
 
 TEST_F(MembersTest, TextsAreGatedByTheirOptions) {
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = false;
     const Ref<clsDATA_MEMBER> member =
         DATA_MEMBER_Add_ARIS_Mapping(Attribute("a")->With(9, "what")->With(8, "how"));
     EXPECT_EQ(member->DESCRIPTION + member->DOCUMENTATION, "");
@@ -64,15 +64,15 @@ TEST_F(MembersTest, TheOptionDecidesWhetherTheAttributeOrTheDomainComesFirst) {
         AddDomain(attribute, "Integer");
         return attribute;
     };
-    gOptDataTypeFromAttribute = true;
+    gBlock.gOptDataTypeFromAttribute = true;
     EXPECT_EQ(TypeOf(both()), "FLOAT");
-    gOptDataTypeFromAttribute = false;
+    gBlock.gOptDataTypeFromAttribute = false;
     EXPECT_EQ(TypeOf(both()), "LONG");
 }
 
 TEST_F(MembersTest, TheOtherSourceServesWhereTheFirstIsEmpty) {
     for (const bool attributeFirst : {true, false}) {
-        gOptDataTypeFromAttribute = attributeFirst;
+        gBlock.gOptDataTypeFromAttribute = attributeFirst;
         EXPECT_EQ(TypeOf(Attribute("by attribute")->With(494, "Real")), "FLOAT");
         const Ref<FakeObject> byDomain = Attribute("by domain");
         AddDomain(byDomain, "Okt");
@@ -91,7 +91,7 @@ TEST_F(MembersTest, TheWordIsTrimmedAndComparedWithCase) {
 }
 
 TEST_F(MembersTest, WithoutNameConversionTheWordStays) {
-    gOptConvertNames = false;
+    gBlock.gOptConvertNames = false;
     EXPECT_EQ(TypeOf(Attribute("a")->With(494, "Number (n)")), "Number (n)");
     EXPECT_EQ(TypeOf(Attribute("b")), "STRING");
 }
@@ -128,7 +128,7 @@ TEST_F(MembersTest, AnyOtherRuleGivesNoDataType) {
 }
 
 TEST_F(MembersTest, TheSizeOfAnArrayIsANumberAsItStands) {
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     const auto size = [&](const std::string& text) {
         return DATA_MEMBER_Add_ARIS_Mapping(Attribute("a")->With(985, text))->SizeOfArray;
     };
@@ -139,7 +139,7 @@ TEST_F(MembersTest, TheSizeOfAnArrayIsANumberAsItStands) {
     EXPECT_EQ(size("1,000"), "");
     EXPECT_EQ(size("&H10"), "");
     EXPECT_EQ(size(""), "");
-    gOptUseOtherSettings = false;
+    gBlock.gOptUseOtherSettings = false;
     EXPECT_EQ(size("12"), "");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
@@ -149,7 +149,7 @@ TEST_F(MembersTest, AStructureIsAMemberOfItsOwnNameWhoseTypeIsNotRead) {
     const Ref<clsDATA_MEMBER> member = DATA_MEMBER_Add_ARIS_Mapping(order);
     EXPECT_TRUE(member->IsDataStructure);
     EXPECT_EQ(member->DataType, "'Order'");
-    EXPECT_EQ(member->DATA_STRUCTURE, gColDATA_STRUCTURE.Item(order->Guid()));
+    EXPECT_EQ(member->DATA_STRUCTURE, gBlock.gColDATA_STRUCTURE.Item(order->Guid()));
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|Number|T19|DATA_MEMBER", "I3060|Order|T17|DATA_STRUCTURE",
                                          "I3060|Order|T17|DATA_MEMBER"));
 }
@@ -163,7 +163,7 @@ TEST_F(MembersTest, AStructureAsAMemberIsOfTheMembersNameNotTheStructures) {
 }
 
 TEST_F(MembersTest, AStructureAsAMemberMayHaveASize) {
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     EXPECT_EQ(DATA_MEMBER_Add_ARIS_Mapping(EntityType("Order", {"Number"})->With(985, "3"))->SizeOfArray,
               "(3)");
 }
@@ -179,7 +179,7 @@ TEST_F(MembersTest, ADataObjectWithoutMembersIsAPlainMember) {
     const Ref<clsDATA_MEMBER> member = DATA_MEMBER_Add_ARIS_Mapping(EntityType("Bare", {}));
     EXPECT_FALSE(member->IsDataStructure);
     EXPECT_EQ(member->DataType, "STRING");
-    EXPECT_TRUE(gColDATA_STRUCTURE.IsEmpty());
+    EXPECT_TRUE(gBlock.gColDATA_STRUCTURE.IsEmpty());
 }
 
 TEST_F(MembersTest, AnotherTypeIsNoDataObject) {

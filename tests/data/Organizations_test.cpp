@@ -39,7 +39,7 @@ TEST_F(OrganizationsTest, WithoutAManagerAdminStaysAndNothingIsMadeForIt) {
     const Ref<clsORGANIZATION> organization = ORGANIZATION_Add_ARIS_Mapping(object);
     EXPECT_EQ(organization->ObjectName, "'Sales'");
     EXPECT_EQ(organization->MANAGER, "'ADMIN'");
-    EXPECT_TRUE(gColPERSON.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPERSON.IsEmpty());
     EXPECT_THAT(Notes(), ElementsAre("I3090|ORGANIZATION|'Sales'", "I3060|Sales|T43|ORGANIZATION"));
 }
 
@@ -47,7 +47,7 @@ TEST_F(OrganizationsTest, AManagerWithoutANameLeavesAdmin) {
     Manages(Person(""));
     Manages(Person("second"));
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(object)->MANAGER, "'ADMIN'");
-    EXPECT_TRUE(gColPERSON.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPERSON.IsEmpty());
     EXPECT_THAT(Notes(3000), ElementsAre("E3000|MANAGER|ORGANIZATION"));
     EXPECT_THAT(Notes(3030), ElementsAre("I3030|second|T46"));
 }
@@ -71,7 +71,7 @@ TEST_F(OrganizationsTest, TheParentIsFoundByFiveConnectionsInTheirOrder) {
     EXPECT_THAT(Notes(3000), ElementsAre("E3000|PARENT_ORGANIZATION|ORGANIZATION"));
     EXPECT_THAT(Notes(3030),
                 ElementsAre("I3030|by 8|T43", "I3030|by 211|T43", "I3030|by 3|T43", "I3030|by 7|T43"));
-    EXPECT_EQ(gColORGANIZATION.Count(), 2);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 2);
 }
 
 TEST_F(OrganizationsTest, TheParentIsNamedByTheRuleOfItsOwnName) {
@@ -82,28 +82,28 @@ TEST_F(OrganizationsTest, TheParentIsNamedByTheRuleOfItsOwnName) {
     const Ref<clsORGANIZATION> organization = ORGANIZATION_Add_ARIS_Mapping(object);
     EXPECT_EQ(organization->ObjectName, "'Sales dept'");
     EXPECT_EQ(organization->PARENT_ORGANIZATION, "'No_ 1'");
-    EXPECT_EQ(gColORGANIZATION.Item(parent->Guid())->ObjectName, "'No_ 1'");
+    EXPECT_EQ(gBlock.gColORGANIZATION.Item(parent->Guid())->ObjectName, "'No_ 1'");
 }
 
 TEST_F(OrganizationsTest, AnOrganizationMayBeItsOwnParent) {
     repository.Connect(object, 9, object);
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(object)->PARENT_ORGANIZATION, "'Sales'");
-    EXPECT_EQ(gColORGANIZATION.Count(), 1);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 1);
 }
 
 TEST_F(OrganizationsTest, PersonsAreListedInTheOrderOfTheirConnections) {
     for (const char* name : {"b", "a", "c"}) repository.Connect(Person(name), 6, object);
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(object)->RELATED_PERSON, "'B' 'A' 'C'");
-    EXPECT_EQ(gColPERSON.Count(), 3);
-    EXPECT_EQ(gColPERSON.Item(1)->RELATED_ORGANIZATION, "'Sales'");
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 3);
+    EXPECT_EQ(gBlock.gColPERSON.Item(1)->RELATED_ORGANIZATION, "'Sales'");
 }
 
 TEST_F(OrganizationsTest, TheDescriptionIsGatedByItsOption) {
     object->Set(9, "text");
-    gOptUseDescriptionAttr = false;
+    gBlock.gOptUseDescriptionAttr = false;
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(object)->DESCRIPTION, "");
     const Ref<FakeObject> other = Drawn(ObjectType::organization, "Other")->With(9, "text");
-    gOptUseDescriptionAttr = true;
+    gBlock.gOptUseDescriptionAttr = true;
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(other)->DESCRIPTION, "'text'");
 }
 
@@ -111,10 +111,10 @@ TEST_F(OrganizationsTest, ABatchFillsThoseThatJoinItOnTheWay) {
     const Ref<FakeObject> parent = DrawnElsewhere(ObjectType::organization, "Company");
     repository.Connect(parent, 9, object);
     ORGANIZATION_Create(ModelsOf({model}));
-    ASSERT_EQ(gColORGANIZATION.Count(), 2);
-    EXPECT_EQ(gColORGANIZATION.Item(1)->ObjectName, "'Sales'");
-    EXPECT_EQ(gColORGANIZATION.Item(2)->ObjectName, "'Company'");
-    EXPECT_TRUE(gColORGANIZATION.Item(2)->SetupFinished);
+    ASSERT_EQ(gBlock.gColORGANIZATION.Count(), 2);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Item(1)->ObjectName, "'Sales'");
+    EXPECT_EQ(gBlock.gColORGANIZATION.Item(2)->ObjectName, "'Company'");
+    EXPECT_TRUE(gBlock.gColORGANIZATION.Item(2)->SetupFinished);
     EXPECT_THAT(Notes(), ElementsAre("I3060|Sales|T43|ORGANIZATION", "I3090|ORGANIZATION|'Company'",
                                      "I3060|Company|T43|ORGANIZATION", "I3090|ORGANIZATION|'Sales'"));
 }
@@ -126,13 +126,13 @@ TEST_F(OrganizationsTest, AnotherTypeIsNoOrganization) {
               2120);
     EXPECT_THAT(Boxes(),
                 ElementsAre("C2120 in modORGANIZATION.ORGANIZATION_Add_ARIS_Mapping: T46|Jo|ORGANIZATION"));
-    EXPECT_TRUE(gColORGANIZATION.IsEmpty());
+    EXPECT_TRUE(gBlock.gColORGANIZATION.IsEmpty());
 }
 
 TEST_F(OrganizationsTest, AnUnnamedOneIsKeptWithAnEmptyName) {
     object = Drawn(ObjectType::organization, "");
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(object)->ObjectName, "");
-    EXPECT_EQ(gColORGANIZATION.Count(), 1);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 1);
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(Notes(), ElementsAre("I3090|ORGANIZATION", "I3060"));
 }
@@ -140,7 +140,7 @@ TEST_F(OrganizationsTest, AnUnnamedOneIsKeptWithAnEmptyName) {
 TEST_F(OrganizationsTest, ANameOfBlanksIsANameThatIsPrintedEmpty) {
     repository.Connect(Drawn(ObjectType::organization, "  "), 9, object);
     EXPECT_EQ(ORGANIZATION_Add_ARIS_Mapping(object)->PARENT_ORGANIZATION, "''");
-    EXPECT_EQ(gColORGANIZATION.Count(), 2);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 2);
 }
 
 }  // namespace

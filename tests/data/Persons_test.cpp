@@ -37,7 +37,7 @@ TEST_F(PersonsTest, TextsAreReadFromTheirAttributes) {
         ->With(246, "45")
         ->With(9, "Some\tone")
         ->With(985, "SETTING 'x'\t.");
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     const Ref<clsPERSON> person = PERSON_Add_ARIS_Mapping(object);
     EXPECT_EQ(person->PersonName, "'JDOE'");
     EXPECT_EQ(person->FIRST_NAME, "'John'");
@@ -51,7 +51,7 @@ TEST_F(PersonsTest, TextsAreReadFromTheirAttributes) {
 }
 
 TEST_F(PersonsTest, NamesAndPhonesAreReadWhateverTheOptionsSay) {
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = gOptUseOtherSettings = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = gBlock.gOptUseOtherSettings = false;
     object->With(1243, "John")->With(245, "1")->With(246, "2")->With(9, "text")->With(985, "SETTING");
     const Ref<clsPERSON> person = PERSON_Add_ARIS_Mapping(object);
     EXPECT_EQ(person->FIRST_NAME, "'John'");
@@ -64,7 +64,7 @@ TEST_F(PersonsTest, NamesAndPhonesAreReadWhateverTheOptionsSay) {
 TEST_F(PersonsTest, RolesAreListedWithoutABlankInFront) {
     for (const char* name : {"A", "", "B", "C"}) repository.Connect(object, 61, Role(name));
     EXPECT_EQ(PERSON_Add_ARIS_Mapping(object)->RELATED_ROLE, "'A' 'B' 'C'");
-    EXPECT_EQ(gColROLE.Count(), 3);
+    EXPECT_EQ(gBlock.gColROLE.Count(), 3);
 }
 
 TEST_F(PersonsTest, WithoutARoleTheListIsEmpty) {
@@ -84,8 +84,8 @@ TEST_F(PersonsTest, RolesAndOrganizationsAreCitedByTheirPlainNames) {
     const Ref<clsPERSON> person = PERSON_Add_ARIS_Mapping(object);
     EXPECT_EQ(person->RELATED_ROLE, "'Clerk'");
     EXPECT_EQ(person->RELATED_ORGANIZATION, "'No_ 1'");
-    EXPECT_EQ(gColROLE.Item(role->Guid())->ObjectName, "'by rule'");
-    EXPECT_EQ(gColORGANIZATION.Item(organization->Guid())->ObjectName, "'by rule'");
+    EXPECT_EQ(gBlock.gColROLE.Item(role->Guid())->ObjectName, "'by rule'");
+    EXPECT_EQ(gBlock.gColORGANIZATION.Item(organization->Guid())->ObjectName, "'by rule'");
 }
 
 TEST_F(PersonsTest, TheFirstOrganizationAndTheFirstSubstituteCount) {
@@ -98,14 +98,14 @@ TEST_F(PersonsTest, TheFirstOrganizationAndTheFirstSubstituteCount) {
     EXPECT_EQ(person->SUBSTITUTE, "'THIRD'");
     EXPECT_THAT(Notes(3000), ElementsAre("E3000|SUBSTITUTE|PERSON", "E3000|RELATED_ORGANIZATION|PERSON"));
     EXPECT_THAT(Notes(3030), ElementsAre("I3030|fourth|T46", "I3030|second|T43"));
-    EXPECT_EQ(gColPERSON.Count(), 2);
-    EXPECT_EQ(gColORGANIZATION.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 2);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 1);
 }
 
 TEST_F(PersonsTest, APersonMayBeTheirOwnSubstitute) {
     repository.Connect(object, 318, object);
     EXPECT_EQ(PERSON_Add_ARIS_Mapping(object)->SUBSTITUTE, "'JOHN_DOE'");
-    EXPECT_EQ(gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
 }
 
 TEST_F(PersonsTest, ACircleOfSubstitutesEndsWithEachOfThemOnce) {
@@ -115,9 +115,9 @@ TEST_F(PersonsTest, ACircleOfSubstitutesEndsWithEachOfThemOnce) {
     repository.Connect(third, 318, second);
     repository.Connect(object, 318, third);
     PERSON_Add_ARIS_Mapping(object);
-    ASSERT_EQ(gColPERSON.Count(), 3);
-    EXPECT_EQ(gColPERSON.Item(2)->SUBSTITUTE, "'THIRD'");
-    EXPECT_EQ(gColPERSON.Item(3)->SUBSTITUTE, "'JOHN_DOE'");
+    ASSERT_EQ(gBlock.gColPERSON.Count(), 3);
+    EXPECT_EQ(gBlock.gColPERSON.Item(2)->SUBSTITUTE, "'THIRD'");
+    EXPECT_EQ(gBlock.gColPERSON.Item(3)->SUBSTITUTE, "'JOHN_DOE'");
     EXPECT_THAT(Notes(3090),
                 ElementsAre("I3090|PERSON|'THIRD'", "I3090|PERSON|'SECOND'", "I3090|PERSON|'JOHN_DOE'"));
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|third|T46|PERSON", "I3060|second|T46|PERSON",
@@ -139,28 +139,28 @@ TEST_F(PersonsTest, APersonOfTwoModelsIsOne) {
     const Ref<FakeModel> second = repository.Model(processType, "Second", group);
     repository.Draw(second, object);
     PERSON_Create(ModelsOf({model, second}));
-    EXPECT_EQ(gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
     EXPECT_EQ(Notes(3060).size(), 1U);
     ForgetNotes();
     PERSON_Create(ModelsOf({second}));
-    EXPECT_EQ(gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
     EXPECT_THAT(Notes(), ElementsAre("I3060|John Doe|T46|PERSON"));
 }
 
 TEST_F(PersonsTest, TwoPersonsOfOneNameAreTwo) {
     Person("John Doe");
     PERSON_Create(ModelsOf({model}));
-    EXPECT_EQ(gColPERSON.Count(), 2);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 2);
 }
 
 TEST_F(PersonsTest, FindingABatchFillsNothing) {
     PERSON_Find_ARIS_Mapping(ModelsOf({model}));
-    ASSERT_EQ(gColPERSON.Count(), 1);
-    EXPECT_EQ(gColPERSON.Item(1)->PersonName, "");
-    EXPECT_FALSE(gColPERSON.Item(1)->SetupFinished);
-    EXPECT_EQ(gColPERSON.Item(1)->ARISObjectDefinition, ARISObjDef(object));
+    ASSERT_EQ(gBlock.gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Item(1)->PersonName, "");
+    EXPECT_FALSE(gBlock.gColPERSON.Item(1)->SetupFinished);
+    EXPECT_EQ(gBlock.gColPERSON.Item(1)->ARISObjectDefinition, ARISObjDef(object));
     PERSON_SetupProperties();
-    EXPECT_EQ(gColPERSON.Item(1)->PersonName, "'JOHN_DOE'");
+    EXPECT_EQ(gBlock.gColPERSON.Item(1)->PersonName, "'JOHN_DOE'");
     ForgetNotes();
     PERSON_SetupProperties();
     EXPECT_THAT(Notes(), IsEmpty());
@@ -169,8 +169,8 @@ TEST_F(PersonsTest, FindingABatchFillsNothing) {
 TEST_F(PersonsTest, AnUnfinishedOneOfTheRegistryIsReturnedAsItIs) {
     PERSON_Find_ARIS_Mapping(ModelsOf({model}));
     ForgetNotes();
-    EXPECT_EQ(PERSON_Add_ARIS_Mapping(object), gColPERSON.Item(1));
-    EXPECT_FALSE(gColPERSON.Item(1)->SetupFinished);
+    EXPECT_EQ(PERSON_Add_ARIS_Mapping(object), gBlock.gColPERSON.Item(1));
+    EXPECT_FALSE(gBlock.gColPERSON.Item(1)->SetupFinished);
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
@@ -182,7 +182,7 @@ TEST_F(PersonsTest, AChainOfSubstitutesIsAsDeepAsItIs) {
         last = next;
     }
     PERSON_Create(ModelsOf({model}));
-    EXPECT_EQ(gColPERSON.Count(), 501);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 501);
     EXPECT_EQ(Notes(3090).front(), "I3090|PERSON|'P499'");
     EXPECT_EQ(Notes(3090).back(), "I3090|PERSON|'JOHN_DOE'");
 }

@@ -28,7 +28,7 @@ TEST_F(ProgramsTest, AProgramBeginsWithTwoDefaultStructures) {
     EXPECT_EQ(program.OutputContainer->ObjectName, defaultName);
     EXPECT_NE(program.InputContainer, program.OutputContainer);
     EXPECT_FALSE(program.InputContainer->IsGenerated);
-    EXPECT_TRUE(gColDATA_STRUCTURE.IsEmpty());
+    EXPECT_TRUE(gBlock.gColDATA_STRUCTURE.IsEmpty());
     EXPECT_FALSE(program.SetupFinished);
 }
 
@@ -37,7 +37,7 @@ TEST_F(ProgramsTest, WithoutDataTheDefaultStructuresStay) {
     EXPECT_EQ(program->ObjectName, "'Ledger'");
     EXPECT_EQ(program->InputContainer->ObjectName, defaultName);
     EXPECT_EQ(program->OutputContainer->ObjectName, defaultName);
-    EXPECT_TRUE(gColDATA_STRUCTURE.IsEmpty());
+    EXPECT_TRUE(gBlock.gColDATA_STRUCTURE.IsEmpty());
     EXPECT_THAT(Notes(), ElementsAre("I3090|PROGRAM|'Ledger'", "I3060|Ledger|T6|PROGRAM"));
 }
 
@@ -45,7 +45,7 @@ TEST_F(ProgramsTest, OneEntityTypeWithMembersIsBothContainers) {
     const Ref<FakeObject> order = EntityType("Order", {"Number"});
     Touches(order);
     const Ref<clsPROGRAM> program = PROGRAM_Add_ARIS_Mapping(object);
-    EXPECT_EQ(program->InputContainer, gColDATA_STRUCTURE.Item(order->Guid()));
+    EXPECT_EQ(program->InputContainer, gBlock.gColDATA_STRUCTURE.Item(order->Guid()));
     EXPECT_EQ(program->OutputContainer, program->InputContainer);
     EXPECT_EQ(program->InputContainer->ObjectName, "'Order'");
 }
@@ -60,7 +60,7 @@ TEST_F(ProgramsTest, SeveralObjectsGiveAGeneratedStructureThatOthersShare) {
     EXPECT_EQ(program->InputContainer->ObjectName, "'DATA_STRUCTURE_0'");
     EXPECT_EQ(program->OutputContainer, program->InputContainer);
     EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({b, a})), program->InputContainer);
-    EXPECT_EQ(gColDATA_STRUCTURE.Count(), 1);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Count(), 1);
 }
 
 TEST_F(ProgramsTest, OneObjectWithoutMembersGivesAGeneratedStructure) {
@@ -80,7 +80,7 @@ TEST_F(ProgramsTest, OneObjectThatIsNoDataLeavesTheContainerEmpty) {
 }
 
 TEST_F(ProgramsTest, OneOfSeveralObjectsThatIsNoDataEndsTheRun) {
-    const Ref<clsMappingRule> rule = gColMappingRule.Item("PROGRAM_RECEIVES_DATA");
+    const Ref<clsMappingRule> rule = gBlock.gColMappingRule.Item("PROGRAM_RECEIVES_DATA");
     AddStep(rule, ObjectType::applicationSystem, CxnKind::outgoing, 125, ObjectType::person);
     Touches(Drawn(ObjectType::ermAttribute, "a"));
     Touches(Drawn(ObjectType::person, "Jo"));
@@ -94,12 +94,12 @@ TEST_F(ProgramsTest, OneOfSeveralObjectsThatIsNoDataEndsTheRun) {
 
 TEST_F(ProgramsTest, TextsAreGatedByTheirOptions) {
     object->With(9, "what")->With(8, "how")->With(985, "EXE 'a.b'\t");
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = false;
     const Ref<clsPROGRAM> bare = PROGRAM_Add_ARIS_Mapping(object);
     EXPECT_EQ(bare->DESCRIPTION + bare->DOCUMENTATION + bare->OtherSettings, "");
     const Ref<FakeObject> other = Drawn(ObjectType::moduleType, "Module")->With(9, "what's");
     other->With(8, "how")->With(985, "EXE 'a.b'\t");
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = gOptUseOtherSettings = true;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = gBlock.gOptUseOtherSettings = true;
     const Ref<clsPROGRAM> full = PROGRAM_Add_ARIS_Mapping(other);
     EXPECT_EQ(full->DESCRIPTION, "'what''s'");
     EXPECT_EQ(full->DOCUMENTATION, "'how'");
@@ -112,7 +112,7 @@ TEST_F(ProgramsTest, ABatchFindsAllTypesOfTheRule) {
     PROGRAM_Create(ModelsOf({model}));
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|Ledger|T6|PROGRAM", "I3060|a function|T105|PROGRAM",
                                          "I3060|a module|T37|PROGRAM"));
-    EXPECT_EQ(gColPROGRAM.Count(), 3);
+    EXPECT_EQ(gBlock.gColPROGRAM.Count(), 3);
 }
 
 TEST_F(ProgramsTest, AnotherTypeIsNoProgram) {

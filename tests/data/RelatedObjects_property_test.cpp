@@ -77,17 +77,17 @@ class RelatedObjectsPropertyTest : public CoreTest {
     template <class Ask>
     Answers AskAll(Ask&& ask) {
         const std::size_t boxes = Boxes().size();
-        gRelatedSearchDepth = 0;
-        gCurrentProcedure = "modTest.Test";
-        gFailureContext = "";
+        gBlock.gRelatedSearchDepth = 0;
+        gBlock.gCurrentProcedure = "modTest.Test";
+        gBlock.gFailureContext = "";
         Answers all;
         EndOf([&] {
             for (const Ref<FakeObject>& object : data) all.answers.push_back(ask(object));
         });
         all.boxes = Boxes();
         all.boxes.erase(all.boxes.begin(), all.boxes.begin() + static_cast<std::ptrdiff_t>(boxes));
-        all.procedure = gCurrentProcedure;
-        all.context = gFailureContext;
+        all.procedure = gBlock.gCurrentProcedure;
+        all.context = gBlock.gFailureContext;
         return all;
     }
 
@@ -152,9 +152,10 @@ TEST_F(RelatedObjectsTest, APositiveAnswerLeavesTheNameOfTheTest) {
     const Collection<ARISObjDef> functions = ObjectsOf({function});
     RelatedObjects senders(functions, "FUNCTION_SENDS_DATA");
     EXPECT_FALSE(senders.LeadTo(Drawn(ObjectType::entityType, "other")));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
     EXPECT_TRUE(senders.LeadTo(data));
-    EXPECT_EQ(gCurrentProcedure, "modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule");
+    EXPECT_EQ(gBlock.gCurrentProcedure,
+              "modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule");
 }
 
 TEST_F(RelatedObjectsTest, AnEmptyListLeadsNowhereAndAsksForNoRule) {

@@ -46,7 +46,7 @@ TEST_F(RolesTest, ARoleIsFilledOnceAndNoted) {
 
 TEST_F(RolesTest, TheDescriptionIsGatedByItsOption) {
     object->Set(9, "text");
-    gOptUseDescriptionAttr = false;
+    gBlock.gOptUseDescriptionAttr = false;
     EXPECT_EQ(ROLE_Add_ARIS_Mapping(object)->DESCRIPTION, "");
 }
 
@@ -57,14 +57,14 @@ TEST_F(RolesTest, TheFirstCoordinatorCountsAndFurtherOnesAreIgnored) {
     EXPECT_EQ(ROLE_Add_ARIS_Mapping(object)->COORDINATOR, "'FIRST'");
     EXPECT_THAT(Notes(3000), ElementsAre("E3000|COORDINATOR|ROLE"));
     EXPECT_THAT(Notes(3030), ElementsAre("I3030|second|T46", "I3030|third|T46"));
-    EXPECT_EQ(gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
 }
 
 TEST_F(RolesTest, ACoordinatorWithoutANameIsSkippedAndTheNextIsNotTaken) {
     Coordinates(Person(""));
     Coordinates(Person("second"));
     EXPECT_EQ(ROLE_Add_ARIS_Mapping(object)->COORDINATOR, "");
-    EXPECT_TRUE(gColPERSON.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPERSON.IsEmpty());
     EXPECT_THAT(Notes(3000), ElementsAre("E3000|COORDINATOR|ROLE"));
     EXPECT_THAT(Notes(3030), ElementsAre("I3030|second|T46"));
 }
@@ -75,7 +75,7 @@ TEST_F(RolesTest, PersonsAreListedWithOneBlankBetweenAndUnnamedOnesSkipped) {
     Performs(Person("b b"));
     Performs(Person("c"));
     EXPECT_EQ(ROLE_Add_ARIS_Mapping(object)->RELATED_PERSON, "'A' 'B_B' 'C'");
-    EXPECT_EQ(gColPERSON.Count(), 3);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 3);
     EXPECT_THAT(Notes(3000), IsEmpty());
     EXPECT_THAT(Notes(3030), IsEmpty());
 }
@@ -85,22 +85,22 @@ TEST_F(RolesTest, ARoleAndAPersonThatNameEachOtherBothEndFinished) {
     Performs(someone);
     Coordinates(someone);
     const Ref<clsROLE> role = ROLE_Add_ARIS_Mapping(object);
-    const Ref<clsPERSON> person = gColPERSON.Item(someone->Guid());
+    const Ref<clsPERSON> person = gBlock.gColPERSON.Item(someone->Guid());
     EXPECT_EQ(role->COORDINATOR, "'SOMEONE'");
     EXPECT_EQ(role->RELATED_PERSON, "'SOMEONE'");
     EXPECT_EQ(person->RELATED_ROLE, "'Clerk'");
     EXPECT_TRUE(role->SetupFinished);
     EXPECT_TRUE(person->SetupFinished);
-    EXPECT_EQ(gColROLE.Count(), 1);
-    EXPECT_EQ(gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColROLE.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|someone|T46|PERSON", "I3060|Clerk|T78|ROLE"));
 }
 
 TEST_F(RolesTest, ANeighbourOfAnUnselectedModelIsMadeOnTheSpot) {
     Performs(DrawnElsewhere(ObjectType::person, "elsewhere"));
     ROLE_Create(ModelsOf({model}));
-    EXPECT_EQ(gColPERSON.Count(), 1);
-    EXPECT_TRUE(gColPERSON.Item(1)->SetupFinished);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
+    EXPECT_TRUE(gBlock.gColPERSON.Item(1)->SetupFinished);
     EXPECT_THAT(Notes(),
                 ElementsAre("I3060|Clerk|T78|ROLE", "I3100|elsewhere|ELSEWHERE", "I3100|elsewhere|ELSEWHERE",
                             "I3090|PERSON|'ELSEWHERE'", "I3060|elsewhere|T46|PERSON", "I3090|ROLE|'Clerk'"));
@@ -109,12 +109,12 @@ TEST_F(RolesTest, ANeighbourOfAnUnselectedModelIsMadeOnTheSpot) {
 TEST_F(RolesTest, APersonThatABatchMeetsAgainIsNotedAgainAndStays) {
     Performs(Person("Someone"));
     ROLE_Create(ModelsOf({model}));
-    const Ref<clsPERSON> person = gColPERSON.Item(1);
+    const Ref<clsPERSON> person = gBlock.gColPERSON.Item(1);
     ForgetNotes();
     PERSON_Create(ModelsOf({model}));
     EXPECT_THAT(Notes(), ElementsAre("I3060|Someone|T46|PERSON"));
-    EXPECT_EQ(gColPERSON.Count(), 1);
-    EXPECT_EQ(gColPERSON.Item(1), person);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Item(1), person);
 }
 
 TEST_F(RolesTest, ARelationRuleThatReachesAnotherTypeEndsTheRun) {
@@ -126,7 +126,7 @@ TEST_F(RolesTest, ARelationRuleThatReachesAnotherTypeEndsTheRun) {
               }),
               2120);
     EXPECT_THAT(Boxes(), ElementsAre("C2120 in modPERSON.PERSON_Add_ARIS_Mapping: T45|Head|PERSON"));
-    EXPECT_TRUE(gColPERSON.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPERSON.IsEmpty());
 }
 
 TEST_F(RolesTest, PersonsWhoseGuidsDifferInCaseAloneAreOneUnderTwoNames) {
@@ -140,8 +140,8 @@ TEST_F(RolesTest, PersonsWhoseGuidsDifferInCaseAloneAreOneUnderTwoNames) {
     const Ref<clsROLE> role = ROLE_Add_ARIS_Mapping(object);
     EXPECT_EQ(role->COORDINATOR, "'LOWER'");
     EXPECT_EQ(role->RELATED_PERSON, "'UPPER'");
-    ASSERT_EQ(gColPERSON.Count(), 1);
-    EXPECT_EQ(gColPERSON.Item(1)->PersonName, "'LOWER'");
+    ASSERT_EQ(gBlock.gColPERSON.Count(), 1);
+    EXPECT_EQ(gBlock.gColPERSON.Item(1)->PersonName, "'LOWER'");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 

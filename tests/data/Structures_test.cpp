@@ -26,7 +26,7 @@ class StructuresTest : public CoreTest {
     }
     static std::vector<std::string> StructureNames() {
         std::vector<std::string> names;
-        for (const Ref<clsDATA_STRUCTURE>& structure : gColDATA_STRUCTURE)
+        for (const Ref<clsDATA_STRUCTURE>& structure : gBlock.gColDATA_STRUCTURE)
             names.push_back(structure->ObjectName);
         return names;
     }
@@ -80,8 +80,8 @@ TEST_F(StructuresTest, ABatchMakesAMappedStructureOfEachObjectWithMembers) {
     const Ref<FakeObject> order = EntityType("Order", {"Number", "Date"});
     Attribute("alone");
     DATA_STRUCTURE_Create(ModelsOf({model}));
-    ASSERT_EQ(gColDATA_STRUCTURE.Count(), 1);
-    const Ref<clsDATA_STRUCTURE> structure = gColDATA_STRUCTURE.Item(order->Guid());
+    ASSERT_EQ(gBlock.gColDATA_STRUCTURE.Count(), 1);
+    const Ref<clsDATA_STRUCTURE> structure = gBlock.gColDATA_STRUCTURE.Item(order->Guid());
     EXPECT_EQ(structure->ObjectName, "'Order'");
     EXPECT_FALSE(structure->IsGenerated);
     EXPECT_THAT(MemberNames(*structure), ElementsAre("'Number'", "'Date'"));
@@ -99,7 +99,7 @@ TEST_F(StructuresTest, TextsOfAMappedStructureAreGatedByTheirOptions) {
     const Ref<clsDATA_STRUCTURE> full = DATA_STRUCTURE_Add_ARIS_Mapping(order);
     EXPECT_EQ(full->DESCRIPTION, "'what'");
     EXPECT_EQ(full->DOCUMENTATION, "'how'");
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = false;
     const Ref<clsDATA_STRUCTURE> bare =
         DATA_STRUCTURE_Add_ARIS_Mapping(EntityType("Item", {})->With(9, "what")->With(8, "how"));
     EXPECT_EQ(bare->DESCRIPTION + bare->DOCUMENTATION, "");
@@ -113,7 +113,7 @@ TEST_F(StructuresTest, OnDemandNeitherMembersNorAnEqualOneAreAskedFor) {
     const Ref<clsDATA_STRUCTURE> mapped = DATA_STRUCTURE_Add_ARIS_Mapping(equal);
     EXPECT_NE(mapped, generated);
     EXPECT_TRUE(DATA_STRUCTURE_Add_ARIS_Mapping(attribute)->ColDATA_MEMBER.IsEmpty());
-    EXPECT_EQ(gColDATA_STRUCTURE.Count(), 3);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Count(), 3);
 }
 
 TEST_F(StructuresTest, AnotherTypeIsNoDataObject) {
@@ -123,7 +123,7 @@ TEST_F(StructuresTest, AnotherTypeIsNoDataObject) {
               2120);
     EXPECT_THAT(Boxes(), ElementsAre("C2120 in modDATA_STRUCTURE.DATA_STRUCTURE_Add_ARIS_Mapping: T22|Check|"
                                      "DATA_OBJECT"));
-    EXPECT_TRUE(gColDATA_STRUCTURE.IsEmpty());
+    EXPECT_TRUE(gBlock.gColDATA_STRUCTURE.IsEmpty());
 }
 
 TEST_F(StructuresTest, AGeneratedStructureGathersObjectsUnderAGeneratedName) {
@@ -139,17 +139,17 @@ TEST_F(StructuresTest, AGeneratedStructureGathersObjectsUnderAGeneratedName) {
 }
 
 TEST_F(StructuresTest, GeneratedNamesCountFromTheFirstSuffix) {
-    gNextDataStructureSuffix = 7;
+    gBlock.gNextDataStructureSuffix = 7;
     DATA_STRUCTURE_Generate(ObjectsOf({Attribute("a")}));
     DATA_STRUCTURE_Generate(ObjectsOf({Attribute("b")}));
     EXPECT_THAT(StructureNames(), ElementsAre("'DATA_STRUCTURE_7'", "'DATA_STRUCTURE_8'"));
-    gDataStructureNamePrefix = "P.";
+    gBlock.gDataStructureNamePrefix = "P.";
     EXPECT_EQ(DATA_STRUCTURE_GenerateName(), "P.9");
-    EXPECT_EQ(gNextDataStructureSuffix, 10);
+    EXPECT_EQ(gBlock.gNextDataStructureSuffix, 10);
 }
 
 TEST_F(StructuresTest, ASuffixBeyond32BitsEndsTheRun) {
-    gNextDataStructureSuffix = std::numeric_limits<std::int32_t>::max() - 1;
+    gBlock.gNextDataStructureSuffix = std::numeric_limits<std::int32_t>::max() - 1;
     EXPECT_EQ(DATA_STRUCTURE_GenerateName(), "DATA_STRUCTURE_2147483646");
     EXPECT_EQ(EndOf([] {
                   DATA_STRUCTURE_GenerateName();
@@ -166,8 +166,8 @@ TEST_F(StructuresTest, TheSameObjectsInAnyOrderShareAStructureAndUseNoNumber) {
     EXPECT_NE(one, both);
     EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({a})), one);
     EXPECT_EQ(DATA_STRUCTURE_Generate(ObjectsOf({b, a})), both);
-    EXPECT_EQ(gNextDataStructureSuffix, 2);
-    EXPECT_EQ(gColDATA_STRUCTURE.Count(), 2);
+    EXPECT_EQ(gBlock.gNextDataStructureSuffix, 2);
+    EXPECT_EQ(gBlock.gColDATA_STRUCTURE.Count(), 2);
 }
 
 TEST_F(StructuresTest, AGeneratedStructureWithoutObjectsIsQuotedTwice) {
@@ -175,7 +175,7 @@ TEST_F(StructuresTest, AGeneratedStructureWithoutObjectsIsQuotedTwice) {
     structure.IsGenerated = true;
     structure.SetupProperty_ObjectName();
     EXPECT_EQ(structure.ObjectName, "'''Default Data Structure'''");
-    EXPECT_EQ(gNextDataStructureSuffix, 0);
+    EXPECT_EQ(gBlock.gNextDataStructureSuffix, 0);
 }
 
 TEST_F(StructuresTest, OneMemberIsSharedByAllItsStructures) {
@@ -209,7 +209,7 @@ class ContainersTest : public StructuresTest {
         return container;
     }
 
-    Ref<clsDATA_STRUCTURE> original = gPool.Create<clsDATA_STRUCTURE>();
+    Ref<clsDATA_STRUCTURE> original = gBlock.gPool.Create<clsDATA_STRUCTURE>();
 };
 
 TEST_F(ContainersTest, GoByTheNumberAndSortOfTheObjects) {
@@ -217,7 +217,7 @@ TEST_F(ContainersTest, GoByTheNumberAndSortOfTheObjects) {
     const Ref<FakeObject> attribute = Attribute("a");
     EXPECT_EQ(ContainerOf({}), original);
     const Ref<clsDATA_STRUCTURE> mapped = ContainerOf({order});
-    EXPECT_EQ(mapped, gColDATA_STRUCTURE.Item(order->Guid()));
+    EXPECT_EQ(mapped, gBlock.gColDATA_STRUCTURE.Item(order->Guid()));
     const Ref<clsDATA_STRUCTURE> one = ContainerOf({attribute});
     EXPECT_TRUE(one->IsGenerated);
     EXPECT_THAT(MemberNames(*one), ElementsAre("'a'"));

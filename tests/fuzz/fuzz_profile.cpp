@@ -47,9 +47,9 @@ class ProfileRun {
     ProfileRun(std::string bytes, CodePage& codePage) : codePage_(codePage) {
         fileSystem_.Put(profileName, std::move(bytes));
         RenewGlobals();
-        gPlatform = &platform_;
-        gExceptionHandler = gPool.Create<clsExceptionHandler>();
-        gIOHandler = gPool.Create<clsIOHandler>();
+        gBlock.gPlatform = &platform_;
+        gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+        gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
     }
     ~ProfileRun() { RenewGlobals(); }
     ProfileRun(const ProfileRun&) = delete;
@@ -105,7 +105,7 @@ void Require(bool holds, const char* what) {
 void CompareTokens(ProfileRun& run, const std::string& text, const ProfileReading& reading) {
     Collection<Ref<clsMappingRuleToken>> tokens;
     const std::int32_t end = run.EndOf([&] {
-        tokens = gIOHandler->TokenizeMappingProfile(text);
+        tokens = gBlock.gIOHandler->TokenizeMappingProfile(text);
     });
     Require(reading.overflow.has_value() == (end == FailureKind::overflow), "both readings overflow alike");
     if (reading.overflow) return;
@@ -120,7 +120,7 @@ void CompareTokens(ProfileRun& run, const std::string& text, const ProfileReadin
 
 void CompareRules(ProfileRun& run, const std::string& text, const ProfileReading& reading) {
     const std::int32_t end = run.EndOf([] {
-        gIOHandler->ParseMappingFile();
+        gBlock.gIOHandler->ParseMappingFile();
     });
     if (text.empty()) return;
     const ProfileClauses clauses = ReadClauses(reading, DecimalSeparator());
@@ -129,7 +129,7 @@ void CompareRules(ProfileRun& run, const std::string& text, const ProfileReading
         if (told == 0) told = finding.endsWith;
     Require(told == end, "the failure of a run is told");
     if (end == 0)
-        Require(ProfileText(RulesOf(clauses)) == ProfileText(RulesOf(gColMappingRule)),
+        Require(ProfileText(RulesOf(clauses)) == ProfileText(RulesOf(gBlock.gColMappingRule)),
                 "the rules are the same");
 }
 
@@ -150,7 +150,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ProfileRun run(std::string(reinterpret_cast<const char*>(data), size), codePage);
     std::string text;
     run.EndOf([&] {
-        text = gIOHandler->ReadFile(profileName);
+        text = gBlock.gIOHandler->ReadFile(profileName);
     });
     const char32_t separator = DecimalSeparator();
     const ProfileReading reading = ReadProfile(text, separator);

@@ -17,7 +17,7 @@ class DefaultMappingRulesTest : public CoreTest {
     /// The types of a rule, as "22, 18".
     static std::string Types(std::string_view name) {
         std::string text;
-        for (const clsObjectMapping& mapping : gColMappingRule.Item(name)->ColObjectMapping)
+        for (const clsObjectMapping& mapping : gBlock.gColMappingRule.Item(name)->ColObjectMapping)
             text += (text.empty() ? "" : ", ") + std::to_string(mapping.ObjTypeNum);
         return text;
     }
@@ -25,7 +25,7 @@ class DefaultMappingRulesTest : public CoreTest {
     /// target, and the rule that goes on.
     static std::string Steps(std::string_view name) {
         std::string text;
-        for (const clsConnectionMapping& step : gColMappingRule.Item(name)->ColConnectionMapping) {
+        for (const clsConnectionMapping& step : gBlock.gColMappingRule.Item(name)->ColConnectionMapping) {
             text += (text.empty() ? "" : "; ") + std::to_string(step.SourceObjTypeNum) + ", " +
                     std::to_string(step.CnxKind) + ", " + std::to_string(step.CnxTypeNum) + ", " +
                     std::to_string(step.TargetObjTypeNum);
@@ -36,13 +36,13 @@ class DefaultMappingRulesTest : public CoreTest {
 };
 
 TEST_F(DefaultMappingRulesTest, ThereAre85RulesWith108StepsOfWhich15AreChained) {
-    EXPECT_EQ(gColMappingRule.Count(), 85);
+    EXPECT_EQ(gBlock.gColMappingRule.Count(), 85);
     std::size_t types = 0;
     std::size_t attributes = 0;
     std::size_t connections = 0;
     std::int32_t steps = 0;
     std::int32_t chained = 0;
-    for (const Ref<clsMappingRule>& rule : gColMappingRule) {
+    for (const Ref<clsMappingRule>& rule : gBlock.gColMappingRule) {
         types += rule->ColObjectMapping.IsEmpty() ? 0 : 1;
         attributes += rule->AttributeMapping.empty() ? 0 : 1;
         connections += rule->ColConnectionMapping.IsEmpty() ? 0 : 1;
@@ -59,17 +59,17 @@ TEST_F(DefaultMappingRulesTest, ThereAre85RulesWith108StepsOfWhich15AreChained) 
 }
 
 TEST_F(DefaultMappingRulesTest, NamesThatNoLogicReadsAreNotAmongThem) {
-    EXPECT_EQ(gColMappingRule.Find("ACTIVITY_COORDINATOR_OF_ROLE"), nullptr);
-    EXPECT_EQ(gColMappingRule.Find("CONTROL_CONNECTOR_OTHER_SETTINGS"), nullptr);
+    EXPECT_EQ(gBlock.gColMappingRule.Find("ACTIVITY_COORDINATOR_OF_ROLE"), nullptr);
+    EXPECT_EQ(gBlock.gColMappingRule.Find("CONTROL_CONNECTOR_OTHER_SETTINGS"), nullptr);
 }
 
 TEST_F(DefaultMappingRulesTest, ARuleIsFoundInAnyCase) {
-    EXPECT_EQ(gColMappingRule.Item("activity_description")->Name, "ACTIVITY_DESCRIPTION");
-    EXPECT_EQ(gColMappingRule.Item("ACTIVITY_ACTIVITYNAME")->Name, "ACTIVITY_ActivityName");
+    EXPECT_EQ(gBlock.gColMappingRule.Item("activity_description")->Name, "ACTIVITY_DESCRIPTION");
+    EXPECT_EQ(gBlock.gColMappingRule.Item("ACTIVITY_ACTIVITYNAME")->Name, "ACTIVITY_ActivityName");
 }
 
 TEST_F(DefaultMappingRulesTest, AnObjectRuleHasItsTypesAndNothingElse) {
-    const Ref<clsMappingRule> activity = gColMappingRule.Item("ACTIVITY");
+    const Ref<clsMappingRule> activity = gBlock.gColMappingRule.Item("ACTIVITY");
     EXPECT_EQ(Types("ACTIVITY"), "22");
     EXPECT_EQ(activity->AttributeMapping, "");
     EXPECT_TRUE(activity->ColConnectionMapping.IsEmpty());
@@ -130,7 +130,7 @@ TEST_F(DefaultMappingRulesTest, AttributeRulesHoldTheirNumberAsText) {
     };
     for (const AttributeGroup& row : groups)
         for (const std::string_view rule : row.rules)
-            EXPECT_EQ(gColMappingRule.Item(rule)->AttributeMapping, row.attribute) << rule;
+            EXPECT_EQ(gBlock.gColMappingRule.Item(rule)->AttributeMapping, row.attribute) << rule;
 }
 
 constexpr std::string_view programData =
@@ -198,13 +198,13 @@ TEST_F(DefaultMappingRulesTest, ConnectionRulesHoldTheirStepsInTheOrderOfSearch)
 }
 
 TEST_F(DefaultMappingRulesTest, ANameThatIsTakenBringsAWarningAndTheFirstRuleStays) {
-    gColMappingRule = {};
+    gBlock.gColMappingRule = {};
     NewTypeRule("activity", {4711});
     CreateDefaultMappingRules();
     EXPECT_THAT(Boxes(), ElementsAre("E2110 in modMappingRule.CreateDefaultMappingRules: ACTIVITY"));
-    EXPECT_EQ(gColMappingRule.Count(), 85);
+    EXPECT_EQ(gBlock.gColMappingRule.Count(), 85);
     EXPECT_EQ(Types("ACTIVITY"), "4711");
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST(ConnectionMapping, IsChainedExactlyWhenARuleIsNamed) {

@@ -65,10 +65,10 @@ TEST_F(IsMemberTest, AMemberLeavesTheContextAndANonMemberClearsIt) {
     const Ref<FakeObject> out = Function("out");
     const Collection<ARISObjDef> objects = ObjectsOf({in});
     EXPECT_TRUE(ARIS_ObjDefIsMemberOfCollection(in, objects));
-    EXPECT_EQ(gFailureContext, "Retrieve collection member");
+    EXPECT_EQ(gBlock.gFailureContext, "Retrieve collection member");
     EXPECT_FALSE(ARIS_ObjDefIsMemberOfCollection(out, objects));
-    EXPECT_EQ(gFailureContext, "");
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gFailureContext, "");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 

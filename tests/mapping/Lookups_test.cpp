@@ -118,7 +118,7 @@ TEST_F(LookupsTest, ConformingLooksAtNothingButTheType) {
     EXPECT_TRUE(ARIS_ObjDef_Conforms_To_Mapping_Rule(undrawn, "DATA_OBJECT"));
     EXPECT_TRUE(ARIS_ObjDef_Conforms_To_Mapping_Rule(undrawn, "data_object"));
     EXPECT_FALSE(ARIS_ObjDef_Conforms_To_Mapping_Rule(undrawn, "ACTIVITY"));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(LookupsTest, AnAttributeIsReadByTheNumberOfItsRule) {
@@ -140,7 +140,7 @@ TEST_F(LookupsTest, MinusOneStandsForTheName) {
 TEST_F(LookupsTest, LineBreaksOfAnAttributeGoByTheOption) {
     const Ref<FakeObject> function = Function("Check")->With(9, "one\r\ntwo\nthree");
     EXPECT_EQ(Find_ARIS_ObjDef_Attribute(function, 9), "one two three");
-    gOptRemoveLineBreaks = false;
+    gBlock.gOptRemoveLineBreaks = false;
     EXPECT_EQ(Find_ARIS_ObjDef_Attribute(function, 9), "one\r\ntwo\nthree");
 }
 
@@ -212,20 +212,20 @@ TEST_F(LookupsTest, AnUnknownRuleEndsTheRunInWhateverLookupMeetsIt) {
         {"ARIS_ObjDef_Conforms_To_Mapping_Rule", ARIS_ObjDef_Conforms_To_Mapping_Rule},
     };
     for (const RuleLookup& lookup : lookups) {
-        gFailureContext = "";
+        gBlock.gFailureContext = "";
         EXPECT_EQ(EndOf([&] {
                       lookup.ask(function, "NO_RULE");
                   }),
                   2100);
         EXPECT_EQ(Boxes().back(), "C2100 in modMappingRule." + std::string(lookup.procedure) + ": NO_RULE");
-        EXPECT_EQ(gFailureContext, "failed");
+        EXPECT_EQ(gBlock.gFailureContext, "failed");
     }
 }
 
 TEST_F(LookupsTest, TheFailureContextIsEmptyBehindARule) {
-    gFailureContext = "Retrieve PROCESS";
+    gBlock.gFailureContext = "Retrieve PROCESS";
     EXPECT_TRUE(ARIS_ObjDef_Conforms_To_Mapping_Rule(Function("f"), "ACTIVITY"));
-    EXPECT_EQ(gFailureContext, "");
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class NameConversionTest : public CoreTest {
             frame.Step([&] {
                 text = ConvertARISName(text, kind, ruleName);
             });
-            nameBehindStep = gCurrentProcedure;
+            nameBehindStep = gBlock.gCurrentProcedure;
         });
         return text;
     }
@@ -32,7 +32,7 @@ class NameConversionTest : public CoreTest {
 TEST_F(NameConversionTest, AChangeIsNotedWithTheTextBeforeAndBehindIt) {
     EXPECT_EQ(ConvertARISName("No. 5", "6", ""), "No_ 5");
     EXPECT_THAT(Notes(), ElementsAre("I3100|No. 5|No_ 5"));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(NameConversionTest, ATextThatStaysIsNotNoted) {
@@ -67,7 +67,7 @@ TEST_F(NameConversionTest, ADataTypeThatChangesItsWordIsNoted) {
 }
 
 TEST_F(NameConversionTest, WithTheOptionOffEveryKindGivesTheTextBack) {
-    gOptConvertNames = false;
+    gBlock.gOptConvertNames = false;
     for (const char* kind : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", ""})
         EXPECT_EQ(ConvertARISName(" it's != AND.\t", kind, ""), " it's != AND.\t") << kind;
     EXPECT_EQ(ConvertARISName("", "6", ""), "");
@@ -90,17 +90,17 @@ TEST_F(NameConversionTest, AnEmptyObjectNameIsAWarning) {
 TEST_F(NameConversionTest, ItsNameStaysBehindAWarningUntilTheFrameOfTheCallerEnds) {
     ConvertInStep("", "6");
     EXPECT_EQ(nameBehindStep, "modMappingRule.ConvertARISName");
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(NameConversionTest, AnUnknownRuleIsAMissingKeyInTheCallersFrame) {
-    gOptConvertNames = false;
+    gBlock.gOptConvertNames = false;
     EXPECT_EQ(EndOf([&] {
                   ConvertInStep("text", "6", "NO_RULE");
               }),
               FailureKind::invalidCall);
     EXPECT_THAT(Boxes(), ElementsAre("C5 in modMappingRule.ConvertARISName: invalid call or missing key"));
-    EXPECT_EQ(gFailureContext, "Retrieve rule");
+    EXPECT_EQ(gBlock.gFailureContext, "Retrieve rule");
 }
 
 TEST_F(NameConversionTest, ARuleWithoutANumberIsATypeMismatchWhateverTheKind) {
@@ -115,7 +115,7 @@ TEST_F(NameConversionTest, APersonIsKnownByTheLogin) {
     const Ref<FakeObject> person = Drawn(ObjectType::person, "John Doe")->With(509, "jo.doe@site");
     EXPECT_EQ(ConvertARISPersonName(person), "JO.DOE");
     EXPECT_THAT(Notes(), ElementsAre("I3100|jo.doe@site|JO.DOE"));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(NameConversionTest, APersonWithoutALoginIsKnownByTheNameOfWhichNothingIsCut) {
@@ -135,7 +135,7 @@ TEST_F(NameConversionTest, ALoginOfBlanksIsALogin) {
 }
 
 TEST_F(NameConversionTest, APersonsNameStaysWithTheOptionOff) {
-    gOptConvertNames = false;
+    gBlock.gOptConvertNames = false;
     EXPECT_EQ(ConvertARISPersonName(Drawn(ObjectType::person, "x")->With(509, "jo@site")), "jo@site");
     EXPECT_EQ(ConvertARISPersonName(Drawn(ObjectType::person, "John Doe")), "John Doe");
 }

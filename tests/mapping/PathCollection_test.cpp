@@ -86,7 +86,7 @@ class PathCollectionTest : public CoreTest {
         };
         for (std::size_t layer = layers.size(); layer-- > 0;)
             for (const ARISObjDef& object : layers[layer])
-                onward[layer].push_back(gPool.Create<PathCollection>(waysFrom(object, layer + 1)));
+                onward[layer].push_back(gBlock.gPool.Create<PathCollection>(waysFrom(object, layer + 1)));
         return waysFrom(Function("start"), 0);
     }
 

@@ -42,7 +42,7 @@ TEST_F(RelatingPathsTest, ADirectConnectionIsAPathWithoutObjects) {
 TEST_F(RelatingPathsTest, TheObjectsOfAChainStandOnThePathInWalkingOrder) {
     Flow({start, Event("event"), RuleObject("first"), RuleObject("second"), end});
     EXPECT_THAT(Paths(start, end), ElementsAre("start > event > first > second > end"));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(RelatingPathsTest, AllPathsComeInTheOrderOfTheRule) {
@@ -142,7 +142,7 @@ TEST_F(RelatingPathsTest, ACircleThatTheRelationTestDoesNotComeToUsesUpTheStack)
     Flow({start, circle, circle, end});
     std::int32_t number = 0;
     OnReservedStack(std::size_t{4} << 20U, [&](const char* stackEnd) {
-        gBlock.stackEnd = stackEnd;
+        gBlock.gStackEnd = stackEnd;
         number = EndOf([&] {
             Paths(start, end);
         });
@@ -176,9 +176,9 @@ TEST_F(IsRelatedTest, WhatIsNotDrawnIsNotRelated) {
 TEST_F(IsRelatedTest, APositiveAnswerLeavesItsNameAndANegativeOneDoesNot) {
     Flow({start, end});
     EXPECT_FALSE(IsRelated(end, start));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
     EXPECT_TRUE(IsRelated(start, end));
-    EXPECT_EQ(gCurrentProcedure, isRelated);
+    EXPECT_EQ(gBlock.gCurrentProcedure, isRelated);
 }
 
 TEST_F(IsRelatedTest, FailuresBehindAPositiveAnswerAreToldUnderItsName) {
@@ -198,7 +198,7 @@ TEST_F(IsRelatedTest, TheNameGoesWithTheFrameOfTheCaller) {
     Procedure("modTest.Caller", [&](Frame&) {
         IsRelated(start, end);
     });
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(IsRelatedTest, AChainInACircleEndsTheRun) {

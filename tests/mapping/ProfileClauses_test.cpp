@@ -24,7 +24,7 @@ class ProfileClausesTest : public ProfileTest {
         const std::string text = [&] {
             std::string read;
             RunIn("test.Caller", [&](Frame&) {
-                read = gIOHandler->ReadFile(profileName);
+                read = gBlock.gIOHandler->ReadFile(profileName);
             });
             return read;
         }();

@@ -39,9 +39,9 @@ class ProfileTest : public RunFixture {
     /// goes on behind it.
     std::optional<RunEnd> Parse(const std::string& bytes) {
         fileSystem_.Put(profileName, bytes);
-        gColMappingRule = {};
+        gBlock.gColMappingRule = {};
         return RunIn("test.Caller", [](Frame&) {
-            gIOHandler->ParseMappingFile();
+            gBlock.gIOHandler->ParseMappingFile();
         });
     }
     /// The tokens of a text, as "keyword END", "word A", "number 1", "equals ="; "failure 6" where the run
@@ -49,7 +49,7 @@ class ProfileTest : public RunFixture {
     static std::vector<std::string> Tokens(const std::string& text) {
         std::vector<std::string> tokens;
         const std::optional<RunEnd> end = RunIn("test.Caller", [&](Frame&) {
-            for (const Ref<clsMappingRuleToken>& token : gIOHandler->TokenizeMappingProfile(text))
+            for (const Ref<clsMappingRuleToken>& token : gBlock.gIOHandler->TokenizeMappingProfile(text))
                 tokens.push_back(TokenText(token->TokenType, token->TokenValue));
         });
         if (end) return {"failure " + std::to_string(end->number)};
@@ -70,7 +70,7 @@ class ProfileTest : public RunFixture {
         }
     }
     /// The table of the run.
-    static std::string Table() { return Whole(RulesOf(gColMappingRule)); }
+    static std::string Table() { return Whole(RulesOf(gBlock.gColMappingRule)); }
 };
 
 }  // namespace wxbrg

@@ -41,15 +41,15 @@ TEST_F(ProfileParserTest, TakesObjectAttributeAndConnectionRulesInTheirOrder) {
               "ROLE_DESCRIPTION: attribute [-1]\n"
               "A: attribute [] step 1,4,3,2,[B] step 4,2,6,5,[] step 7,2,9,8,[]\n");
     EXPECT_THAT(Boxes(), IsEmpty());
-    EXPECT_EQ(gColProfileTokens.Count(), 57);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
-    EXPECT_EQ(gFailureContext, "");
+    EXPECT_EQ(gBlock.gColProfileTokens.Count(), 57);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 TEST_F(ProfileParserTest, ARuleEntersTheTableUnderItsNameInAnyCase) {
     Parse("OBJECT_MAPPING Activity OBJECT_TYPE = 335 END\n");
-    ASSERT_NE(gColMappingRule.Find("ACTIVITY"), nullptr);
-    EXPECT_EQ(gColMappingRule.Item("activity")->Name, "Activity");
+    ASSERT_NE(gBlock.gColMappingRule.Find("ACTIVITY"), nullptr);
+    EXPECT_EQ(gBlock.gColMappingRule.Item("activity")->Name, "Activity");
 }
 
 /// A text that is wrong at its last token, and what the failure says.
@@ -146,7 +146,7 @@ TEST_F(ProfileParserTest, ASecondObjectRuleOfANameWarnsInItsOwnSpellingAndTheFir
               std::nullopt);
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2110, parser, TestText(2110, {"rOLE"}))));
     EXPECT_EQ(Table(), "Role: type 78 attribute []\nC: type 9 attribute []\n");
-    EXPECT_EQ(gFailureContext, "");
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 TEST_F(ProfileParserTest, ASecondConnectionRuleOfANameWarnsChainedOrNot) {
@@ -191,10 +191,10 @@ TEST_F(ProfileParserTest, AnAttributeIsKeptAsTextAndConvertedWhereItIsRead) {
         Parse("ATTRIBUTE_MAPPING A ATTRIBUTE_TYPE = 9.5 END ATTRIBUTE_MAPPING B ATTRIBUTE_TYPE = 1e2 END\n"
               "ATTRIBUTE_MAPPING C ATTRIBUTE_TYPE = 99999999999 END\n"),
         std::nullopt);
-    EXPECT_EQ(gColMappingRule.Item("A")->AttributeMapping, "9.5");
-    EXPECT_EQ(AttributeNumber(*gColMappingRule.Item("A")), 10);
-    EXPECT_EQ(AttributeNumber(*gColMappingRule.Item("B")), 100);
-    EXPECT_THROW(AttributeNumber(*gColMappingRule.Item("C")), Failure);
+    EXPECT_EQ(gBlock.gColMappingRule.Item("A")->AttributeMapping, "9.5");
+    EXPECT_EQ(AttributeNumber(*gBlock.gColMappingRule.Item("A")), 10);
+    EXPECT_EQ(AttributeNumber(*gBlock.gColMappingRule.Item("B")), 100);
+    EXPECT_THROW(AttributeNumber(*gBlock.gColMappingRule.Item("C")), Failure);
 }
 
 TEST_F(ProfileParserTest, TypesMayHaveAFractionOrAnExponent) {
@@ -213,25 +213,25 @@ TEST_F(ProfileParserTest, AnyDirectionIsTakenHere) {
 TEST_F(ProfileParserTest, WithoutAProfileTheDefaultRulesCount) {
     EXPECT_EQ(RunIn("test.Caller",
                     [](Frame&) {
-                        gIOHandler->ParseMappingFile();
+                        gBlock.gIOHandler->ParseMappingFile();
                     }),
               std::nullopt);
-    EXPECT_EQ(gColMappingRule.Count(), 85);
-    EXPECT_FALSE(gIOHandler->MappingProfileFound);
+    EXPECT_EQ(gBlock.gColMappingRule.Count(), 85);
+    EXPECT_FALSE(gBlock.gIOHandler->MappingProfileFound);
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(ProfileParserTest, AnEmptyProfileWarnsAndTheDefaultRulesCount) {
     EXPECT_EQ(Parse(""), std::nullopt);
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2210, parser, TestText(2210))));
-    EXPECT_EQ(gColMappingRule.Count(), 85);
-    EXPECT_TRUE(gIOHandler->MappingProfileFound);
+    EXPECT_EQ(gBlock.gColMappingRule.Count(), 85);
+    EXPECT_TRUE(gBlock.gIOHandler->MappingProfileFound);
 }
 
 TEST_F(ProfileParserTest, AProfileOfBlanksIsATableWithoutRulesThatFailsAtTheFirstLookup) {
     for (const std::string profile : {" ", "\r\n", " \t\r\n \n"}) {
         EXPECT_EQ(Parse(profile), std::nullopt);
-        EXPECT_TRUE(gColMappingRule.IsEmpty());
+        EXPECT_TRUE(gBlock.gColMappingRule.IsEmpty());
     }
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(RunIn("test.Lookup",
@@ -243,7 +243,7 @@ TEST_F(ProfileParserTest, AProfileOfBlanksIsATableWithoutRulesThatFailsAtTheFirs
 
 TEST_F(ProfileParserTest, AProfileIsNoOverlay) {
     EXPECT_EQ(Parse("OBJECT_MAPPING ACTIVITY OBJECT_TYPE = 22 END\n"), std::nullopt);
-    EXPECT_EQ(gColMappingRule.Count(), 1);
+    EXPECT_EQ(gBlock.gColMappingRule.Count(), 1);
 }
 
 TEST_F(ProfileParserTest, LineEndsAreOfAnyKindAndTheLastLineNeedsNone) {
@@ -261,14 +261,14 @@ TEST_F(ProfileParserTest, AProfileElsewhereIsTakenInPlaceOfTheOneBesideTheProgra
     platform_.mappingProfile = "/site/ours.prf";
     EXPECT_EQ(Parse("OBJECT_MAPPING BESIDE OBJECT_TYPE = 5 END\n"), std::nullopt);
     EXPECT_EQ(Table(), "OURS: type 5 attribute []\n");
-    EXPECT_TRUE(gIOHandler->MappingProfileFound);
+    EXPECT_TRUE(gBlock.gIOHandler->MappingProfileFound);
 }
 
 TEST_F(ProfileParserTest, WithAnEmptyNameNoProfileIsLookedFor) {
     platform_.mappingProfile = "";
     EXPECT_EQ(Parse("OBJECT_MAPPING BESIDE OBJECT_TYPE = 5 END\n"), std::nullopt);
-    EXPECT_EQ(gColMappingRule.Count(), 85);
-    EXPECT_FALSE(gIOHandler->MappingProfileFound);
+    EXPECT_EQ(gBlock.gColMappingRule.Count(), 85);
+    EXPECT_FALSE(gBlock.gIOHandler->MappingProfileFound);
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ class PrintedProfileTest : public ProfileTest {
 
 TEST_F(PrintedProfileTest, ReadBackTheDefaultTableIsTheSame) {
     CreateDefaultMappingRules();
-    const RuleTable rules = RulesOf(gColMappingRule);
+    const RuleTable rules = RulesOf(gBlock.gColMappingRule);
     ASSERT_EQ(rules.size(), 85U);
     ExpectToComeBack(rules);
 }
@@ -80,7 +80,7 @@ TEST(RuleTables, TheBuiltInRulesAreThoseThatARunCreates) {
     const RuleTable rules = BuiltInRules();
     EXPECT_EQ(rules.size(), 85U);
     EXPECT_THAT(ProfileText(rules), StartsWith("OBJECT_MAPPING ACTIVITY\n  OBJECT_TYPE = 22\nEND\n"));
-    EXPECT_TRUE(gColMappingRule.IsEmpty());
+    EXPECT_TRUE(gBlock.gColMappingRule.IsEmpty());
 }
 
 TEST(RuleTables, AnEmptyProfileStandsForTheBuiltInRules) {

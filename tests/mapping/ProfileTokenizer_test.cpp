@@ -117,7 +117,7 @@ TEST_F(ProfileTokenizerTest, AProfileOfMegabytesTakesTimeInItsLength) {
 
 TEST_F(ProfileTokenizerTest, RestoresTheNameOfItsCaller) {
     Tokens("a b\n");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 }  // namespace

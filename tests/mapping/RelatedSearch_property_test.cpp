@@ -49,7 +49,8 @@ class PlainSearch {
         }
         ++depth_;
         if (item->OccList().Count() > 0)
-            for (const clsConnectionMapping& step : gColMappingRule.Item(ruleName)->ColConnectionMapping)
+            for (const clsConnectionMapping& step :
+                 gBlock.gColMappingRule.Item(ruleName)->ColConnectionMapping)
                 if (item->TypeNum() == step.SourceObjTypeNum) Take(item, step);
         --depth_;
     }
@@ -127,16 +128,16 @@ class RelatedSearchPropertyTest : public CoreTest {
     Outcome Search(const ARISObjDef& item, std::string_view rule) {
         const std::size_t boxes = Boxes().size();
         Collection<ARISObjDef> found;
-        gRelatedSearchDepth = 0;
+        gBlock.gRelatedSearchDepth = 0;
         const std::int32_t end = EndOf([&] {
             Find_Related_ARIS_ObjDef_Using_Mapping_Rule(found, item, rule);
         });
         if (end == 0) {
-            EXPECT_EQ(gRelatedSearchDepth, 0);
+            EXPECT_EQ(gBlock.gRelatedSearchDepth, 0);
             return {NamesOf(found), ""};
         }
         EXPECT_EQ(end, 2230);
-        EXPECT_EQ(gRelatedSearchDepth, 100);
+        EXPECT_EQ(gBlock.gRelatedSearchDepth, 100);
         EXPECT_EQ(Boxes().size(), boxes + 1);
         const std::string box = Boxes().back();
         const std::size_t name = box.find(": ") + 2;

@@ -43,8 +43,8 @@ TEST_F(RelatedSearchTest, OnlyTheObjectsAtTheEndOfAChainAreFound) {
     const Ref<FakeObject> start = Function("start");
     Flow({start, Event("event"), RuleObject("rule"), Function("end")});
     EXPECT_THAT(Related(start), ElementsAre("end"));
-    EXPECT_EQ(gRelatedSearchDepth, 0);
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gRelatedSearchDepth, 0);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(RelatedSearchTest, AllStepsOfTheRuleThatStartFromTheTypeAreTakenInTheirOrder) {
@@ -104,18 +104,18 @@ TEST_F(RelatedSearchTest, ARuleMayChainToItself) {
 
 TEST_F(RelatedSearchTest, AHundredNestedSearchesAreAllowed) {
     EXPECT_THAT(Related(ChainOfRules(99)), ElementsAre("end"));
-    EXPECT_EQ(gRelatedSearchDepth, 0);
+    EXPECT_EQ(gBlock.gRelatedSearchDepth, 0);
 }
 
 TEST_F(RelatedSearchTest, TheHundredAndFirstNestedSearchEndsTheRun) {
     EXPECT_EQ(EndOfSearch(ChainOfRules(100)), 2230);
     EXPECT_THAT(Boxes(), ElementsAre(tooDeep + std::string("rule 100|T50")));
-    EXPECT_EQ(gRelatedSearchDepth, 100);
+    EXPECT_EQ(gBlock.gRelatedSearchDepth, 100);
 }
 
 TEST_F(RelatedSearchTest, TheDepthThatIsReachedAlreadyCounts) {
     const Ref<FakeObject> start = Function("start");
-    gRelatedSearchDepth = 100;
+    gBlock.gRelatedSearchDepth = 100;
     EXPECT_EQ(EndOfSearch(start), 2230);
     EXPECT_THAT(Boxes(), ElementsAre(tooDeep + std::string("start|T22")));
 }

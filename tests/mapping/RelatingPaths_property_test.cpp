@@ -125,9 +125,9 @@ class RelatingPathsPropertyTest : public CoreTest {
     template <class Search>
     Outcome OutcomeOf(std::int32_t depth, Search&& search) {
         const std::size_t boxes = Boxes().size();
-        gRelatedSearchDepth = depth;
-        gCurrentProcedure = "modTest.Test";
-        gFailureContext = "";
+        gBlock.gRelatedSearchDepth = depth;
+        gBlock.gCurrentProcedure = "modTest.Test";
+        gBlock.gFailureContext = "";
         Outcome outcome;
         EndOf([&] {
             outcome.paths = search();
@@ -135,9 +135,9 @@ class RelatingPathsPropertyTest : public CoreTest {
         outcome.boxes = Boxes();
         outcome.boxes.erase(outcome.boxes.begin(),
                             outcome.boxes.begin() + static_cast<std::ptrdiff_t>(boxes));
-        outcome.procedure = gCurrentProcedure;
-        outcome.context = gFailureContext;
-        outcome.depth = gRelatedSearchDepth;
+        outcome.procedure = gBlock.gCurrentProcedure;
+        outcome.context = gBlock.gFailureContext;
+        outcome.depth = gBlock.gRelatedSearchDepth;
         return outcome;
     }
 

@@ -137,11 +137,11 @@ TEST_F(ActivitiesTest, AnUnnamedActivityIsKept) {
 
 TEST_F(ActivitiesTest, TheDescriptionIsGatedAndTheDocumentationIsNot) {
     const Ref<FakeObject> object = Function("f")->With(9, "what")->With(8, "how\t");
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = false;
     const Ref<clsACTIVITY> activity = ActivityOf(object);
     EXPECT_EQ(activity->DESCRIPTION, "");
     EXPECT_EQ(activity->DOCUMENTATION, "'how'");
-    gOptUseDescriptionAttr = true;
+    gBlock.gOptUseDescriptionAttr = true;
     activity->SetupProperty_DESCRIPTION();
     EXPECT_EQ(activity->DESCRIPTION, "'what'");
 }
@@ -150,7 +150,7 @@ TEST_F(ActivitiesTest, OtherSettingsAreTakenAsReadOnDemand) {
     const Ref<FakeObject> object = Function("f")->With(1209, "PRIORITY 'x'\t1");
     const Ref<clsACTIVITY> activity = ActivityOf(object);
     EXPECT_EQ(activity->OtherSettings, "");
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     activity->SetupProperty_OtherSettings();
     EXPECT_EQ(activity->OtherSettings, "PRIORITY 'x'\t1");
 }
@@ -162,7 +162,7 @@ TEST_F(ActivitiesTest, ContainersComeFromTheDataThatIsReadAndWritten) {
     Writes(object, Drawn(ObjectType::ermAttribute, "x"));
     Writes(object, Drawn(ObjectType::ermAttribute, "y"));
     const Ref<clsACTIVITY> activity = ActivityOf(object);
-    EXPECT_EQ(activity->InputContainer, gColDATA_STRUCTURE.Item(order->Guid()));
+    EXPECT_EQ(activity->InputContainer, gBlock.gColDATA_STRUCTURE.Item(order->Guid()));
     EXPECT_TRUE(activity->OutputContainer->IsGenerated);
     EXPECT_EQ(activity->OutputContainer->ColDATA_MEMBER.Count(), 2);
 }
@@ -176,18 +176,18 @@ TEST_F(ActivitiesTest, FunctionsThatReadTheSameShareAContainer) {
     Reads(one, y);
     Reads(other, y);
     Reads(other, x);
-    gNextDataStructureSuffix = 7;
+    gBlock.gNextDataStructureSuffix = 7;
     const Ref<clsPROCESS> process = ProcessWithActivities();
     EXPECT_EQ(process->Col_ACTIVITY.Item(1)->InputContainer, process->Col_ACTIVITY.Item(2)->InputContainer);
     EXPECT_EQ(process->Col_ACTIVITY.Item(1)->InputContainer->ObjectName, "'DATA_STRUCTURE_7'");
-    EXPECT_EQ(gNextDataStructureSuffix, 8);
+    EXPECT_EQ(gBlock.gNextDataStructureSuffix, 8);
 }
 
 TEST_F(ActivitiesTest, TheFirstPhaseRunsOnceAndTheSecondOnlyBehindIt) {
     const Ref<clsPROCESS> process = NewProcess();
     clsACTIVITY activity;
     activity.ARISObjectDefinition = Function("f")->With(1207, "AUTOMATIC");
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     activity.SetupDependentProperties(*process);
     EXPECT_FALSE(activity.SetupDependentPropertiesFinished);
     EXPECT_EQ(activity.StartMode, "MANUAL");
@@ -219,8 +219,8 @@ TEST_F(ActivitiesTest, TheFirstPhaseIsNameThenContainersThenTextsThenProgram) {
 }
 
 TEST_F(ActivitiesTest, OtherSettingsAreReadBehindTheNote) {
-    gOptUseOtherSettings = true;
-    gColMappingRule.Remove("ACTIVITY_OTHER_SETTINGS");
+    gBlock.gOptUseOtherSettings = true;
+    gBlock.gColMappingRule.Remove("ACTIVITY_OTHER_SETTINGS");
     Function("f");
     EXPECT_EQ(EndOf([&] {
                   ProcessWithActivities();
@@ -230,11 +230,11 @@ TEST_F(ActivitiesTest, OtherSettingsAreReadBehindTheNote) {
 }
 
 TEST_F(ActivitiesTest, TheRuleOfProcessesIsAskedForOnlyWhereModelsAreAssigned) {
-    gColMappingRule.Remove("PROCESS");
+    gBlock.gColMappingRule.Remove("PROCESS");
     const Ref<FakeObject> object = Function("f");
     EXPECT_FALSE(ActivityOf(object)->Is_PROCESS_ACTIVITY());
     object->Assign(Model("Chart", otherModelType));
-    gColPROCESS = {};
+    gBlock.gColPROCESS = {};
     EXPECT_EQ(EndOf([&] {
                   ActivityOf(object);
               }),

@@ -37,7 +37,7 @@ TEST_F(StartConditionTest, TwoConnectorsOverOneAndRuleAreAllConnectors) {
     Flow({first, Event("one"), rule, target});
     Flow({second, rule});
     EXPECT_EQ(StartCondition(), allConnectors);
-    EXPECT_EQ(gFailureContext, "");
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 TEST_F(StartConditionTest, AnotherSymbolIsAnyConnector) {
@@ -80,7 +80,7 @@ TEST_F(StartConditionTest, TheSymbolIsThatOfTheFirstOccurrenceInTheProcessesMode
     EXPECT_EQ(StartCondition(), anyConnector);
     repository.Draw(model, rule, 0, 0, andRuleSymbol);
     repository.Draw(model, rule, 0, 0, orRuleSymbol);
-    gColPROCESS = {};
+    gBlock.gColPROCESS = {};
     EXPECT_EQ(StartCondition(), allConnectors);
 }
 
@@ -97,7 +97,7 @@ TEST_F(StartConditionTest, AConnectorFromTheActivityToItselfIsOneOfThem) {
     Flow({target, Event("again"), rule});
     EXPECT_EQ(StartCondition(), allConnectors);
     Flow({target, target});
-    gColPROCESS = {};
+    gBlock.gColPROCESS = {};
     EXPECT_EQ(StartCondition(), anyConnector);
 }
 
@@ -119,22 +119,22 @@ TEST_F(StartConditionTest, WithTheOptionATypedConditionWins) {
     Flow({second, rule});
     target->Set(985, "'x' = 1.5");
     EXPECT_EQ(StartCondition(), allConnectors);
-    gOptStartConditions = true;
-    gColPROCESS = {};
+    gBlock.gOptStartConditions = true;
+    gBlock.gColPROCESS = {};
     EXPECT_EQ(StartCondition(), "'x' = 1.5");
 }
 
 TEST_F(StartConditionTest, WithTheOptionAnEmptyConditionFallsBack) {
-    gOptStartConditions = true;
+    gBlock.gOptStartConditions = true;
     const Ref<FakeObject> rule = RuleObject("and", andRuleSymbol);
     Flow({first, rule, target});
     Flow({second, rule});
     EXPECT_EQ(StartCondition(), allConnectors);
-    EXPECT_EQ(gColPROCESS.Item(1)->Col_ACTIVITY.Item(first->Guid())->StartCondition, anyConnector);
+    EXPECT_EQ(gBlock.gColPROCESS.Item(1)->Col_ACTIVITY.Item(first->Guid())->StartCondition, anyConnector);
 }
 
 TEST_F(StartConditionTest, ATypedConditionOfBlanksIsATypedOne) {
-    gOptStartConditions = true;
+    gBlock.gOptStartConditions = true;
     target->Set(985, "  ");
     EXPECT_EQ(StartCondition(), "  ");
 }
@@ -173,19 +173,19 @@ TEST_F(ExitConditionTest, WithTheOptionATypedConditionWins) {
     Flow({object, Comparing("x"), object});
     object->Set(986, "_RC = 0");
     EXPECT_EQ(Finished()->ExitCondition, "NOT ( x = 1 )");
-    gOptExitConditions = true;
-    gColPROCESS = {};
+    gBlock.gOptExitConditions = true;
+    gBlock.gColPROCESS = {};
     EXPECT_EQ(Finished()->ExitCondition, "_RC = 0");
 }
 
 TEST_F(ExitConditionTest, WithTheOptionAnEmptyConditionFallsBackToTheLoop) {
-    gOptExitConditions = true;
+    gBlock.gOptExitConditions = true;
     Flow({object, Comparing("x"), object});
     EXPECT_EQ(Finished()->ExitCondition, "NOT ( x = 1 )");
 }
 
 TEST_F(ExitConditionTest, ATypedConditionOfBlanksIsATypedOne) {
-    gOptExitConditions = true;
+    gBlock.gOptExitConditions = true;
     Flow({object, Comparing("x"), object});
     object->Set(986, " ");
     EXPECT_EQ(Finished()->ExitCondition, " ");
@@ -196,15 +196,15 @@ TEST_F(ExitConditionTest, ModesAreTakenAsReadWithOtherSettings) {
     const Ref<clsACTIVITY> bare = Finished();
     EXPECT_EQ(bare->StartMode, "MANUAL");
     EXPECT_EQ(bare->ExitMode, "AUTOMATIC");
-    gOptUseOtherSettings = true;
-    gColPROCESS = {};
+    gBlock.gOptUseOtherSettings = true;
+    gBlock.gColPROCESS = {};
     const Ref<clsACTIVITY> full = Finished();
     EXPECT_EQ(full->StartMode, "auto 'x'");
     EXPECT_EQ(full->ExitMode, "manual\t");
 }
 
 TEST_F(ExitConditionTest, WithOtherSettingsEmptyModesStayTheDefaults) {
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->StartMode, "MANUAL");
     EXPECT_EQ(activity->ExitMode, "AUTOMATIC");

@@ -38,7 +38,7 @@ TEST_F(ActivityProgramsTest, OneProgramIsTheProgramAndNoSupportTool) {
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->PROGRAM, "'SAP_ R3'");
     EXPECT_EQ(activity->SUPPORT_TOOL, "");
-    EXPECT_EQ(gColPROGRAM.Item(1)->ObjectName, "'SAP_ R3'");
+    EXPECT_EQ(gBlock.gColPROGRAM.Item(1)->ObjectName, "'SAP_ R3'");
     EXPECT_THAT(Notes(3010), IsEmpty());
 }
 
@@ -47,7 +47,7 @@ TEST_F(ActivityProgramsTest, TheFirstOfThreeIsTheProgramAndTheOthersAreSupportTo
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->PROGRAM, "'one'");
     EXPECT_EQ(activity->SUPPORT_TOOL, "'two_ x' 'three'");
-    EXPECT_EQ(gColPROGRAM.Count(), 1);
+    EXPECT_EQ(gBlock.gColPROGRAM.Count(), 1);
     EXPECT_THAT(Notes(3010), ElementsAre("I3010|PROGRAM|ACTIVITY"));
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|f|T22|PROGRAM_ACTIVITY", "I3060|one|T6|PROGRAM",
                                          "I3060|two. x|T6|SUPPORT_TOOL", "I3060|three|T6|SUPPORT_TOOL"));
@@ -59,7 +59,7 @@ TEST_F(ActivityProgramsTest, AProcessActivityHasSupportToolsOnly) {
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->PROGRAM, "");
     EXPECT_EQ(activity->SUPPORT_TOOL, "'one' 'two' 'three'");
-    EXPECT_TRUE(gColPROGRAM.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPROGRAM.IsEmpty());
     EXPECT_THAT(Notes(3010), IsEmpty());
 }
 
@@ -69,7 +69,7 @@ TEST_F(ActivityProgramsTest, AnUnnamedProgramIsNotMappedAndTheSecondStaysASuppor
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->PROGRAM, "");
     EXPECT_EQ(activity->SUPPORT_TOOL, "'two'");
-    EXPECT_TRUE(gColPROGRAM.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPROGRAM.IsEmpty());
     EXPECT_THAT(Notes(3010), ElementsAre("I3010|PROGRAM|ACTIVITY"));
 }
 
@@ -77,11 +77,11 @@ TEST_F(ActivityProgramsTest, AnUnnamedSupportToolIsAWarningAndSkipped) {
     for (const char* name : {"one", "", "three", "  "}) AddProgram(name);
     EXPECT_EQ(Finished()->SUPPORT_TOOL, "'three'");
     EXPECT_THAT(Boxes(), ElementsAre("E2050 in modMappingRule.ConvertARISName"));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(ActivityProgramsTest, AnUnnamedSupportToolIsSkippedWithoutAWordWhereNamesAreNotConverted) {
-    gOptConvertNames = false;
+    gBlock.gOptConvertNames = false;
     for (const char* name : {"one", "", "three."}) AddProgram(name);
     EXPECT_EQ(Finished()->SUPPORT_TOOL, "'three.'");
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -100,7 +100,7 @@ TEST_F(ActivityProgramsTest, AProgramOfAnUnselectedModelIsMadeOnTheSpot) {
     repository.Connect(DrawnElsewhere(ObjectType::moduleType, "Module"), 221, object);
     repository.Connect(DrawnElsewhere(ObjectType::itFunctionType, "Function"), 147, object);
     EXPECT_EQ(Finished()->PROGRAM, "'Function'");
-    EXPECT_TRUE(gColPROGRAM.Item(1)->SetupFinished);
+    EXPECT_TRUE(gBlock.gColPROGRAM.Item(1)->SetupFinished);
 }
 
 TEST_F(ActivityProgramsTest, AProgramMadeOnTheSpotHasItsContainersAndNotes) {
@@ -108,8 +108,8 @@ TEST_F(ActivityProgramsTest, AProgramMadeOnTheSpotHasItsContainersAndNotes) {
     repository.Connect(program, 147, object);
     repository.Connect(program, 60, DrawnElsewhere(ObjectType::ermAttribute, "d"));
     Finished();
-    const Ref<clsPROGRAM> made = gColPROGRAM.Item(program->Guid());
-    EXPECT_EQ(made->InputContainer, gColDATA_STRUCTURE.Item(1));
+    const Ref<clsPROGRAM> made = gBlock.gColPROGRAM.Item(program->Guid());
+    EXPECT_EQ(made->InputContainer, gBlock.gColDATA_STRUCTURE.Item(1));
     EXPECT_EQ(made->OutputContainer, made->InputContainer);
     EXPECT_THAT(Notes(3060), ElementsAre("I3060|f|T22|PROGRAM_ACTIVITY", "I3060|d|T19|DATA_MEMBER",
                                          "I3060|Elsewhere|T105|PROGRAM"));
@@ -121,7 +121,7 @@ TEST_F(ActivityProgramsTest, AProgramMadeOnTheSpotHasItsContainersAndNotes) {
 TEST_F(ActivityProgramsTest, ANameOfBlanksIsANameThatIsPrintedEmpty) {
     AddProgram("  ");
     EXPECT_EQ(Finished()->PROGRAM, "''");
-    EXPECT_EQ(gColPROGRAM.Count(), 1);
+    EXPECT_EQ(gBlock.gColPROGRAM.Count(), 1);
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
@@ -144,29 +144,29 @@ class ActivityStaffTest : public ActivityProgramsTest {
 };
 
 TEST_F(ActivityStaffTest, AllOfAKindAreListedOnceInTheOrderOfTheRule) {
-    gOptDynamicStaffAssignment = false;
+    gBlock.gOptDynamicStaffAssignment = false;
     AddPerson("by ten", 10);
     AddPerson("a");
     AddPerson("");
     const Ref<FakeObject> twice = AddPerson("b");
     repository.Connect(twice, 10, object);
     EXPECT_EQ(Finished()->PERSON, "'A' 'B' 'BY_TEN'");
-    EXPECT_EQ(gColPERSON.Count(), 3);
+    EXPECT_EQ(gBlock.gColPERSON.Count(), 3);
 }
 
 TEST_F(ActivityStaffTest, WithoutDynamicAssignmentAPersonStandsAloneAndRolesAreNotAskedFor) {
-    gOptDynamicStaffAssignment = false;
+    gBlock.gOptDynamicStaffAssignment = false;
     AddPerson("Jo");
     AddRole("Clerk");
     AddOrganization("Sales");
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->PERSON, "'JO'");
     EXPECT_EQ(activity->MEMBER_OF_ROLE + activity->ORGANIZATION, "");
-    EXPECT_TRUE(gColROLE.IsEmpty());
+    EXPECT_TRUE(gBlock.gColROLE.IsEmpty());
 }
 
 TEST_F(ActivityStaffTest, WithoutAPersonRolesAndAnOrganizationCount) {
-    gOptDynamicStaffAssignment = false;
+    gBlock.gOptDynamicStaffAssignment = false;
     AddPerson("");
     AddRole("No. 1");
     AddRole("by 220", 220);
@@ -175,8 +175,8 @@ TEST_F(ActivityStaffTest, WithoutAPersonRolesAndAnOrganizationCount) {
     EXPECT_EQ(activity->PERSON, "");
     EXPECT_EQ(activity->MEMBER_OF_ROLE, "'No_ 1' 'by 220'");
     EXPECT_EQ(activity->ORGANIZATION, "'Sales'");
-    EXPECT_EQ(gColROLE.Count(), 2);
-    EXPECT_EQ(gColORGANIZATION.Count(), 1);
+    EXPECT_EQ(gBlock.gColROLE.Count(), 2);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 1);
 }
 
 TEST_F(ActivityStaffTest, WithDynamicAssignmentARoleStandsInFrontOfPersons) {
@@ -185,7 +185,7 @@ TEST_F(ActivityStaffTest, WithDynamicAssignmentARoleStandsInFrontOfPersons) {
     const Ref<clsACTIVITY> activity = Finished();
     EXPECT_EQ(activity->MEMBER_OF_ROLE, "'Clerk'");
     EXPECT_EQ(activity->PERSON, "");
-    EXPECT_TRUE(gColPERSON.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPERSON.IsEmpty());
 }
 
 TEST_F(ActivityStaffTest, WithDynamicAssignmentAnOrganizationStandsInFrontOfPersonsAsWell) {
@@ -211,7 +211,7 @@ TEST_F(ActivityStaffTest, TheFirstOrganizationCounts) {
     EXPECT_EQ(Finished()->ORGANIZATION, "'first'");
     EXPECT_THAT(Notes(3000), ElementsAre("E3000|ORGANIZATION|ACTIVITY"));
     EXPECT_THAT(Notes(3030), ElementsAre("I3030|second|T43", "I3030|third|T43"));
-    EXPECT_EQ(gColORGANIZATION.Count(), 1);
+    EXPECT_EQ(gBlock.gColORGANIZATION.Count(), 1);
 }
 
 TEST_F(ActivityStaffTest, RolesAndOrganizationsAreNamedByTheirRules) {

@@ -59,7 +59,7 @@ class ConnectorPathsPropertyTest : public CoreTest {
 
     /// A process of two functions, joined over a few layers of objects.
     void MakeModel() {
-        gColPROCESS = {};
+        gBlock.gColPROCESS = {};
         model = repository.Model(processType, "Orders", group);
         objects.clear();
         std::vector<std::vector<Ref<FakeObject>>> layers{{Function("start", 0, 0)}};
@@ -107,7 +107,7 @@ class ConnectorPathsPropertyTest : public CoreTest {
             bool hasCondition = false;
             for (const ARISObjDef& object : path) {
                 std::string condition;
-                if (gOptTransitionConditions)
+                if (gBlock.gOptTransitionConditions)
                     condition = connector.GetProperty_Condition("CONTROL_CONNECTOR_CONDITION", object);
                 if (condition.empty())
                     condition = connector.GetProperty_Condition("EVENT_IS_COMPARED_WITH_DATA", object);
@@ -178,7 +178,7 @@ TEST_F(ConnectorPathsPropertyTest, ConditionDescriptionBendPointAndNotesAreThose
     int notedAlone = 0;
     for (int round = 0; round < 1500 && !HasFailure(); ++round) {
         MakeModel();
-        gOptTransitionConditions = OneIn(3);
+        gBlock.gOptTransitionConditions = OneIn(3);
         const Ref<clsPROCESS> process = ProcessWithActivities();
         CONTROL_CONNECTOR_Find_ARIS_Mapping(*process);
         if (process->Col_CONTROL_CONNECTOR.IsEmpty()) continue;

@@ -26,7 +26,7 @@ class ControlConnectorTest : public CoreTest {
     }
     /// The first connector of the process, finished.
     Ref<clsCONTROL_CONNECTOR> Finished() {
-        gColPROCESS = {};
+        gBlock.gColPROCESS = {};
         process = ProcessWithActivities();
         ForgetNotes();
         CONTROL_CONNECTOR_Create(*process);
@@ -114,7 +114,7 @@ TEST_F(ControlConnectorTest, DataOperatorOrValueThatIsMissingGivesNoCondition) {
     EXPECT_EQ(ConditionOf(Comparing("", "1", {"x"})), "");
     EXPECT_EQ(ConditionOf(Comparing("  ", "1", {"x"})), "");
     EXPECT_EQ(ConditionOf(Comparing("=", "", {"x"})), "");
-    gOptConvertNames = false;
+    gBlock.gOptConvertNames = false;
     EXPECT_EQ(ConditionOf(Comparing("  ", "1", {"x"})), "x    1");
 }
 
@@ -185,19 +185,19 @@ TEST_F(ControlConnectorTest, WithTheOptionATypedConditionStandsForTheComparison)
     Flow({check, event, pay});
     EXPECT_EQ(Finished()->Condition, "x = 1");
     repository.Connect(Drawn(ObjectType::ermAttribute, "y"), 75, event);
-    gOptTransitionConditions = true;
+    gBlock.gOptTransitionConditions = true;
     EXPECT_EQ(Finished()->Condition, "typed 'as' it.is");
     EXPECT_THAT(Notes(3120), IsEmpty());
 }
 
 TEST_F(ControlConnectorTest, WithTheOptionAnEventWithoutATypedConditionIsCompared) {
-    gOptTransitionConditions = true;
+    gBlock.gOptTransitionConditions = true;
     Flow({check, Comparing("=", "1", {"x"}), pay});
     EXPECT_EQ(Finished()->Condition, "x = 1");
 }
 
 TEST_F(ControlConnectorTest, OnlyControlObjectsHaveTypedConditions) {
-    gOptTransitionConditions = true;
+    gBlock.gOptTransitionConditions = true;
     const Ref<FakeObject> rule = RuleObject("rule")->With(985, "typed");
     Flow({check, rule, pay});
     EXPECT_EQ(Finished()->Condition, "");
@@ -215,7 +215,7 @@ TEST_F(ControlConnectorTest, TheDescriptionGathersThoseOfAllPaths) {
     Flow({check, Event("two")->With(9, "second"), pay});
     Flow({check, Event("three"), pay});
     EXPECT_EQ(Finished()->DESCRIPTION, "'\r\n   T18 ''one'' it''s first\r\n   T18 ''two'' second'");
-    gOptUseDescriptionAttr = false;
+    gBlock.gOptUseDescriptionAttr = false;
     EXPECT_EQ(Finished()->DESCRIPTION, "");
 }
 
@@ -228,7 +228,7 @@ TEST_F(ControlConnectorTest, ABendPointIsTheMeanOfAllObjectsOfTheFirstPathThatHa
 }
 
 TEST_F(ControlConnectorTest, WithTheOptionOffThereIsNoBendPoint) {
-    gOptUseCtrlConBendPoints = false;
+    gBlock.gOptUseCtrlConBendPoints = false;
     Flow({check, Event("event"), pay});
     EXPECT_EQ(Finished()->LAYOUT, "");
 }

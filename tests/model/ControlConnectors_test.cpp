@@ -184,7 +184,7 @@ TEST_F(ControlFlowLoopsTest, AConnectorToItselfIsNoLoopAndNoWalkTakesIt) {
 }
 
 TEST_F(ControlFlowLoopsTest, WithTheOptionOffNothingIsToldOf) {
-    gOptFindControlFlowLoops = false;
+    gBlock.gOptFindControlFlowLoops = false;
     Flow({a, b, a});
     Find();
     EXPECT_THAT(Notes(3130), IsEmpty());

@@ -109,10 +109,10 @@ TEST_F(FlowLoopsPropertyTest, AnswersAsThePlainRecursionDoes) {
         for (int i = Below(3 * size); i >= 0; --i) {
             const PlainConnector added{objects[static_cast<std::size_t>(Below(size))],
                                        objects[static_cast<std::size_t>(Below(size))]};
-            gFailureContext = "";
+            gBlock.gFailureContext = "";
             const PlainWalk plain(connectors, added);
             EXPECT_EQ(flow.ClosesLoop(added.from->Guid(), added.to->Guid()), plain.closes) << round;
-            EXPECT_EQ(flow.LastTestFound(), gFailureContext == "Retrieve collection member") << round;
+            EXPECT_EQ(flow.LastTestFound(), gBlock.gFailureContext == "Retrieve collection member") << round;
             ++(plain.closes ? closing : open);
             found += flow.LastTestFound() ? 1 : 0;
             connectors.push_back(added);

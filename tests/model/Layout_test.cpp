@@ -82,7 +82,7 @@ TEST_F(LayoutTest, TheTallerAxisDecidesWhereItIsTheLarger) {
 
 TEST_F(LayoutTest, AModelThatJustFitsDoesNotShrink) {
     EXPECT_EQ(Laid({{0, 0}, {17500, 0}})->ShrinkFactor, 1.0);
-    gColPROCESS = {};
+    gBlock.gColPROCESS = {};
     Function("z", 17501, 0);
     EXPECT_EQ(ProcessWithActivities()->ShrinkFactor, 21000.0 / 21001);
 }
@@ -99,7 +99,7 @@ struct Margin {
 TEST_F(LayoutTest, MarginsAreRoundedToTheEvenNeighbour) {
     for (const Margin& row : {Margin{5, 0}, Margin{15, 2}, Margin{25, 2}, Margin{35, 4}, Margin{36, 4},
                               Margin{44, 4}, Margin{46, 5}}) {
-        gColPROCESS = {};
+        gBlock.gColPROCESS = {};
         model = repository.Model(processType, "Orders", group);
         const Ref<clsPROCESS> process = Laid({{1000, 0}, {1000 + row.span, 0}});
         EXPECT_EQ(process->X_ContingencyOffset, 1000 - row.margin) << row.span;
@@ -125,7 +125,7 @@ TEST_F(LayoutTest, PositionsWhoseSumsLeave32BitsEndTheRun) {
                                                        {{-2000000000, 0}, {2000000000, 0}},
                                                        {{2000000000, 0}, {2000000000, 0}},
                                                        {{0, farthest}}}) {
-        gColPROCESS = {};
+        gBlock.gColPROCESS = {};
         model = repository.Model(processType, "Orders", group);
         EXPECT_EQ(EndOf([&] {
                       Laid(places);
@@ -230,7 +230,7 @@ TEST_F(CenterTest, ObjectsAreCountedIn16Bits) {
 }
 
 TEST_F(CenterTest, ObjectsShrinkWithTheirProcess) {
-    gColPROCESS = {};
+    gBlock.gColPROCESS = {};
     Function("far", 120000, 0);
     Function("wide", 0, 0);
     process = ProcessWithActivities();

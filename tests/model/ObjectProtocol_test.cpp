@@ -25,7 +25,7 @@ TEST_F(ObjectProtocolTest, ATextIsConvertedAndQuoted) {
 
 TEST_F(ObjectProtocolTest, AnEmptyTextLeavesThePropertyAsItIs) {
     std::string property = "before";
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     SetupText("modTest.Text", property, true, NameKind::objectName, [] {
         return std::string();
     });
@@ -45,7 +45,7 @@ TEST_F(ObjectProtocolTest, BehindAShutGateNothingIsRead) {
 
 TEST_F(ObjectProtocolTest, SettingsAreTakenAsRead) {
     std::string property;
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     SetupSettings("modTest.Settings", property, Function("f")->With(985, "it's\t"),
                   "ACTIVITY_START_CONDITION");
     EXPECT_EQ(property, "it's\t");
@@ -106,7 +106,7 @@ TEST_F(ObjectProtocolTest, EarlyEndsRestoreTheNameOfTheCaller) {
     };
     const Ref<FakeObject> object = Function("f");
     Collection<Ref<Thing>> registry;
-    registry.Add(gPool.Create<Thing>(), object->Guid());
+    registry.Add(gBlock.gPool.Create<Thing>(), object->Guid());
     std::string property;
     bool finished = true;
     SetupOnce("modTest.Setup", finished, "KIND", property, [] {
@@ -120,7 +120,7 @@ TEST_F(ObjectProtocolTest, EarlyEndsRestoreTheNameOfTheCaller) {
                    });
     EXPECT_EQ(AddARISMapping({"modTest.Add", "ACTIVITY", "THING", "THING"}, object, registry),
               registry.Item(1));
-    EXPECT_EQ(gCurrentProcedure, "modTest.Test");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
     EXPECT_EQ(property, "");
     EXPECT_THAT(Notes(), IsEmpty());
 }

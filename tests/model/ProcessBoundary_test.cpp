@@ -57,7 +57,7 @@ TEST_F(ProcessBoundaryTest, OneMappedStructureIsTheContainer) {
     const Ref<FakeObject> order = EntityType("Order", {"Number"});
     Reads(a, order);
     const Ref<clsPROCESS> process = FinishedProcess();
-    EXPECT_EQ(process->InputContainer, gColDATA_STRUCTURE.Item(order->Guid()));
+    EXPECT_EQ(process->InputContainer, gBlock.gColDATA_STRUCTURE.Item(order->Guid()));
     EXPECT_EQ(process->Col_ACTIVITY.Item(1)->InputContainer, process->InputContainer);
 }
 

@@ -47,7 +47,7 @@ TEST_F(ProcessesTest, AProcessBeginsEmptyWithTwoDefaultContainers) {
 
 TEST_F(ProcessesTest, AModelOfAProcessTypeIsAProcess) {
     PROCESS_Find_ARIS_Mapping(ModelsOf({model}));
-    const Ref<clsPROCESS> process = gColPROCESS.Item(model->Guid());
+    const Ref<clsPROCESS> process = gBlock.gColPROCESS.Item(model->Guid());
     EXPECT_EQ(process->ARIS_Model, ARISModel(model));
     EXPECT_EQ(process->ARIS_Group, ARISGroup(group));
     EXPECT_EQ(process->ProcessName, "");
@@ -57,17 +57,17 @@ TEST_F(ProcessesTest, AModelOfAProcessTypeIsAProcess) {
 TEST_F(ProcessesTest, AModelOfAnotherTypeIsDroppedWithoutAWord) {
     repository.Draw(elsewhere, repository.Object(ObjectType::function, "Check"));
     EXPECT_TRUE(PROCESS_Create(ModelsOf({elsewhere})).IsEmpty());
-    EXPECT_TRUE(gColPROCESS.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPROCESS.IsEmpty());
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
 TEST_F(ProcessesTest, AModelThatABatchMeetsAgainIsNotedAgainAndStays) {
     PROCESS_Create(ModelsOf({model}));
-    const Ref<clsPROCESS> process = gColPROCESS.Item(1);
+    const Ref<clsPROCESS> process = gBlock.gColPROCESS.Item(1);
     ForgetNotes();
     PROCESS_Create(ModelsOf({model}));
-    EXPECT_EQ(gColPROCESS.Count(), 1);
-    EXPECT_EQ(gColPROCESS.Item(1), process);
+    EXPECT_EQ(gBlock.gColPROCESS.Count(), 1);
+    EXPECT_EQ(gBlock.gColPROCESS.Item(1), process);
     EXPECT_THAT(Notes(), ElementsAre("I3050|Orders"));
 }
 
@@ -112,7 +112,7 @@ TEST_F(ProcessesTest, AnAttributeOfAModelIsEmptyUnlessItIsMaintained) {
     EXPECT_EQ(PROCESS_Find_ARIS_Model_Attribute(model, 7), "");
     EXPECT_EQ(PROCESS_Find_ARIS_Model_Attribute(model, -1), "Orders");
     EXPECT_EQ(PROCESS_Find_ARIS_Model_Attribute_Using_Mapping_Rule(model, "PROCESS_DESCRIPTION"), "one two");
-    gOptRemoveLineBreaks = false;
+    gBlock.gOptRemoveLineBreaks = false;
     EXPECT_EQ(PROCESS_Find_ARIS_Model_Attribute(model, 9), "one\r\ntwo");
 }
 
@@ -122,7 +122,7 @@ TEST_F(ProcessesTest, TextsAreReadFromTheModelAndItsGroup) {
     model->Set(9, "what\t");
     model->Set(8, "how");
     model->Set(985, "SETTING 'a.b'");
-    gOptUseOtherSettings = true;
+    gBlock.gOptUseOtherSettings = true;
     const Ref<clsPROCESS> process = FinishedProcess();
     EXPECT_EQ(process->ProcessName, "'Orders_ all'");
     EXPECT_EQ(process->DESCRIPTION, "'what'");
@@ -135,7 +135,7 @@ TEST_F(ProcessesTest, TextsAreGatedByTheirOptions) {
     model->Set(9, "what");
     model->Set(8, "how");
     model->Set(985, "SETTING");
-    gOptUseDescriptionAttr = gOptUseDocumentationAttr = gOptUseOtherSettings = false;
+    gBlock.gOptUseDescriptionAttr = gBlock.gOptUseDocumentationAttr = gBlock.gOptUseOtherSettings = false;
     const Ref<clsPROCESS> process = FinishedProcess();
     EXPECT_EQ(process->DESCRIPTION + process->DOCUMENTATION + process->OtherSettings, "");
     EXPECT_EQ(process->CATEGORY, "'Sales'");
@@ -157,7 +157,7 @@ TEST_F(ProcessesTest, AnUnnamedGroupGivesNoCategory) {
 TEST_F(ProcessesTest, AnUnnamedProcessIsKept) {
     model = Model("");
     EXPECT_EQ(FinishedProcess()->ProcessName, "");
-    EXPECT_EQ(gColPROCESS.Count(), 1);
+    EXPECT_EQ(gBlock.gColPROCESS.Count(), 1);
     EXPECT_THAT(Notes(), ElementsAre("I3090|PROCESS"));
 }
 
@@ -215,8 +215,8 @@ TEST_F(ProcessesTest, AProcessIsFilledWholeBeforeTheNextBegins) {
 }
 
 TEST_F(ProcessesTest, OtherSettingsAreReadInFrontOfTheActivities) {
-    gOptUseOtherSettings = true;
-    gColMappingRule.Remove("PROCESS_OTHER_SETTINGS");
+    gBlock.gOptUseOtherSettings = true;
+    gBlock.gColMappingRule.Remove("PROCESS_OTHER_SETTINGS");
     Function("f");
     EXPECT_EQ(EndOf([&] {
                   FinishedProcess();
@@ -242,7 +242,7 @@ TEST_F(NewModelsTest, ModelsThatActivitiesRunAreAskedForUntilTheyHaveAProcess) {
     const Collection<ARISModel> pending = PROCESS_Create(ModelsOf({model}));
     EXPECT_THAT(NamesOf(pending), ElementsAre("Refined", "Other"));
     EXPECT_TRUE(PROCESS_Create(pending).IsEmpty());
-    EXPECT_EQ(gColPROCESS.Count(), 3);
+    EXPECT_EQ(gBlock.gColPROCESS.Count(), 3);
 }
 
 TEST_F(NewModelsTest, AModelOfTheSameBatchIsNotAskedFor) {
@@ -257,8 +257,8 @@ TEST_F(NewModelsTest, AModelWhoseGuidDiffersFromABuiltOneInCaseAloneIsNotAskedFo
     FakeModel upper("{M}", "Upper", processType, group);
     const Ref<FakeObject> function = Refined("a", &upper);
     EXPECT_TRUE(PROCESS_Create(ModelsOf({model, &lower})).IsEmpty());
-    EXPECT_EQ(gColPROCESS.Item(1)->Col_ACTIVITY.Item(function->Guid())->PROCESS, "'Upper'");
-    gColPROCESS = {};
+    EXPECT_EQ(gBlock.gColPROCESS.Item(1)->Col_ACTIVITY.Item(function->Guid())->PROCESS, "'Upper'");
+    gBlock.gColPROCESS = {};
 }
 
 }  // namespace

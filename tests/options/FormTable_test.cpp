@@ -122,7 +122,7 @@ TEST_F(FormTableTest, TakesCaptionsAndHelpByTheirNumbersWhenItIsActivated) {
 
 TEST_F(FormTableTest, AsksForTheCaptionsInTheOrderOfTheirNumbersAtEachActivation) {
     std::vector<std::uint32_t> asked;
-    gResourceLibrary = std::make_unique<RecordingLibrary>(asked);
+    gBlock.gResourceLibrary = std::make_unique<RecordingLibrary>(asked);
     form_.Activate();
     form_.Activate();
     ASSERT_EQ(asked.size(), 60U);
@@ -131,7 +131,7 @@ TEST_F(FormTableTest, AsksForTheCaptionsInTheOrderOfTheirNumbersAtEachActivation
 
 TEST_F(FormTableTest, ACaptionThatTheLibraryLacksIsItsErrorText) {
     languageLibraries_.Put("wxbrgENU.dll", {{50027, "Apply"}});
-    gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
+    gBlock.gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
     form_.Activate();
     EXPECT_EQ(form_.Caption(), "Error :\r\nThe Resource ID '50000' was not found");
     EXPECT_EQ(RowOf({"cmdOK", Kind::button, noPage, 0, "", 0}).caption,
@@ -175,14 +175,14 @@ TEST_F(FormTableTest, ApplyAloneIsDisabledAndOnlyWhileTheFormIsClean) {
 }
 
 TEST_F(FormTableTest, TheHelpButtonShowsThePageOfTheForm) {
-    gHelpFile = "wxbrgDEU.hlp";
+    gBlock.gHelpFile = "wxbrgDEU.hlp";
     form_.Activate();
     form_.Help();
     EXPECT_THAT(helpViewer_.shown, ElementsAre("wxbrgDEU.hlp#50000"));
 }
 
 TEST_F(FormTableTest, ContextHelpShowsThePageOfItsControlAndNothingForOneWithout) {
-    gHelpFile = "wxbrgENU.hlp";
+    gBlock.gHelpFile = "wxbrgENU.hlp";
     form_.Activate();
     for (const Expected& expected : expectedControls) {
         helpViewer_.shown.clear();
@@ -198,12 +198,12 @@ TEST_F(FormTableTest, ContextHelpShowsThePageOfItsControlAndNothingForOneWithout
 }
 
 TEST_F(FormTableTest, TheActiveFormIsTheOneThatIsShown) {
-    EXPECT_FALSE(gActiveForm);
+    EXPECT_FALSE(gBlock.gActiveForm);
     Show([&] {
         form_.Activate();
-        EXPECT_EQ(gActiveForm.Get(), &form_);
+        EXPECT_EQ(gBlock.gActiveForm.Get(), &form_);
     });
-    EXPECT_FALSE(gActiveForm);
+    EXPECT_FALSE(gBlock.gActiveForm);
 }
 
 class FormFontTest : public OptionsFixture {

@@ -21,7 +21,7 @@ constexpr std::size_t longestText = 4095;
 class LoadLanguageTest : public RunFixture {
   protected:
     LoadLanguageTest() {
-        gResourceLibrary = nullptr;
+        gBlock.gResourceLibrary = nullptr;
         languageLibraries_.Put("wxbrgDEU.dll", {{1020, "deutsch"}});
         languageLibraries_.Put("wxbrg7.dll", {{1020, "seven"}});
     }
@@ -34,8 +34,8 @@ TEST_F(LoadLanguageTest, TakesEnglishWhereNoneIsStored) {
     EXPECT_TRUE(LoadLocalizedResources());
     EXPECT_THAT(languageLibraries_.asked, ElementsAre("wxbrgENU.dll"));
     EXPECT_EQ(GetStringFromResourceFile(1020), TestText(1020));
-    EXPECT_EQ(gHelpFile, "wxbrgENU.hlp");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gHelpFile, "wxbrgENU.hlp");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
@@ -43,7 +43,7 @@ TEST_F(LoadLanguageTest, TakesTheStoredLanguageForTextsAndHelp) {
     Store(ProfileScope::user, std::string("DEU"));
     EXPECT_TRUE(LoadLocalizedResources());
     EXPECT_EQ(GetStringFromResourceFile(1020), "deutsch");
-    EXPECT_EQ(gHelpFile, "wxbrgDEU.hlp");
+    EXPECT_EQ(gBlock.gHelpFile, "wxbrgDEU.hlp");
 }
 
 TEST_F(LoadLanguageTest, TakesTheMachinesLanguageWhereTheUserHasNone) {
@@ -70,10 +70,10 @@ TEST_F(LoadLanguageTest, AMissingLibraryIsToldWithItsNameAndThereAreNoTexts) {
     EXPECT_FALSE(LoadLocalizedResources());
     EXPECT_THAT(Boxes(),
                 ElementsAre(Box("The Language Resource file 'wxbrgFRA.dll' could not be found.", 65552)));
-    EXPECT_EQ(gHelpFile, "wxbrgFRA.hlp");
+    EXPECT_EQ(gBlock.gHelpFile, "wxbrgFRA.hlp");
     EXPECT_EQ(GetStringFromResourceFile(1020), "");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
-    EXPECT_EQ(gRunReport.boxes.critical, 1);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gRunReport.boxes.critical, 1);
 }
 
 TEST_F(LoadLanguageTest, TheStoredTagIsKnownWithoutLoadingIt) {
@@ -90,12 +90,12 @@ class TextTest : public RunFixture {
     /// From now on this is the text of number 1.
     void Have(const std::string& text) {
         languageLibraries_.Put("wxbrgENU.dll", {{1, text}});
-        gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
+        gBlock.gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
     }
 };
 
 TEST_F(TextTest, WithoutALibraryIsEmpty) {
-    gResourceLibrary = nullptr;
+    gBlock.gResourceLibrary = nullptr;
     EXPECT_EQ(GetStringFromResourceFile(1020), "");
     EXPECT_EQ(GetNLSString(1020, "a"), "");
     EXPECT_EQ(GetNLSMessage(64, 3110, "a", "", "", ""), "WXB03110I ");

@@ -51,7 +51,7 @@ TEST_F(OptionsFormTest, OkOnADirtyFormStoresOnceAndEndsIt) {
     EXPECT_EQ(ShowTo("options click:cbStartConditions\noptions ok"), std::nullopt);
     EXPECT_TRUE(form_.IsClosed());
     EXPECT_THAT(profileStore_.writes, SizeIs(15));
-    EXPECT_TRUE(gOptStartConditions);
+    EXPECT_TRUE(gBlock.gOptStartConditions);
 }
 
 TEST_F(OptionsFormTest, ApplyStoresAndTheFormStaysAndIsClean) {
@@ -80,7 +80,7 @@ TEST_F(OptionsFormTest, ClosingTheWindowStoresNothingAndTheGlobalsStayAsLoaded) 
     EXPECT_EQ(ShowTo("options click:cbExitConditions\noptions close"), std::nullopt);
     EXPECT_TRUE(form_.IsClosed());
     EXPECT_THAT(profileStore_.writes, IsEmpty());
-    EXPECT_TRUE(gOptExitConditions);
+    EXPECT_TRUE(gBlock.gOptExitConditions);
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
@@ -89,7 +89,7 @@ TEST_F(OptionsFormTest, CancelAndYesEndsTheRunAndStoresNothing) {
                 EndedRun(RunEnding::endedByFailure, 999));
     EXPECT_THAT(Boxes(), ElementsAre(QuestionBox(999, cancelProcedure)));
     EXPECT_THAT(profileStore_.writes, IsEmpty());
-    EXPECT_EQ(gCurrentProcedure, cancelProcedure);
+    EXPECT_EQ(gBlock.gCurrentProcedure, cancelProcedure);
 }
 
 TEST_F(OptionsFormTest, CancelAndNoKeepsTheFormItsStateAndItsDirtyFlag) {
@@ -101,8 +101,8 @@ TEST_F(OptionsFormTest, CancelAndNoKeepsTheFormItsStateAndItsDirtyFlag) {
         EXPECT_FALSE(form_.IsClosed());
         EXPECT_TRUE(form_.IsDirty());
         EXPECT_TRUE(IsChecked("cbExitConditions"));
-        EXPECT_FALSE(gOptExitConditions);
-        EXPECT_EQ(gCurrentProcedure, "clsWPX_Export.Run");
+        EXPECT_FALSE(gBlock.gOptExitConditions);
+        EXPECT_EQ(gBlock.gCurrentProcedure, "clsWPX_Export.Run");
     });
     EXPECT_THAT(Boxes(), ElementsAre(QuestionBox(999, cancelProcedure)));
 }

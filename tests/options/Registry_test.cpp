@@ -25,7 +25,7 @@ class RegistryTest : public RunFixture {
 
 TEST_F(RegistryTest, AValueThatIsNotStoredIsEmpty) {
     EXPECT_EQ(GetProfileValue(key, "Name"), ProfileValue());
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(RegistryTest, TheUsersValueShadowsTheMachines) {
@@ -56,7 +56,7 @@ TEST_F(RegistryTest, WritesNumbersAndTextsForTheUser) {
     EXPECT_EQ(profileStore_.Read(ProfileScope::user, key, "Number"), ProfileValue(-1));
     EXPECT_EQ(profileStore_.Read(ProfileScope::user, key, "Text"), ProfileValue(std::string("x")));
     EXPECT_EQ(profileStore_.Read(ProfileScope::machine, key, "Number"), ProfileValue());
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(RegistryTest, WritesNothingForAnotherType) {

@@ -24,20 +24,22 @@ struct FlagOption {
 };
 
 const std::array flagOptions{
-    FlagOption{"ConvertNames", "cbConvertARISNames", &gOptConvertNames, true},
-    FlagOption{"RemoveLineBreaks", "cbRemoveLineBreaks", &gOptRemoveLineBreaks, true},
-    FlagOption{"UseDataConBendPoints", "cbDrawDataConWithBendPoints", &gOptUseDataConBendPoints, true},
-    FlagOption{"UseCtrlConBendPoints", "cbDrawControlConWithBendPoints", &gOptUseCtrlConBendPoints, true},
-    FlagOption{"UseDescriptionAttr", "cbWriteDescription", &gOptUseDescriptionAttr, true},
-    FlagOption{"UseDocumentationAttr", "cbWriteDocumentation", &gOptUseDocumentationAttr, true},
-    FlagOption{"UseOtherSettings", "cbWriteOtherSettings", &gOptUseOtherSettings, false},
-    FlagOption{"DynamicStaffAssignment", "cbDynamicStaffAssignment", &gOptDynamicStaffAssignment, true},
-    FlagOption{"FindDataFlowLoops", "cbDataFlowLoops", &gOptFindDataFlowLoops, true},
-    FlagOption{"FindControlFlowLoops", "cbControlFlowLoops", &gOptFindControlFlowLoops, true},
-    FlagOption{"StartConditions", "cbStartConditions", &gOptStartConditions, false},
-    FlagOption{"ExitConditions", "cbExitConditions", &gOptExitConditions, false},
-    FlagOption{"TransitionConditions", "cbTransitionConditions", &gOptTransitionConditions, false},
-    FlagOption{"DataTypeFromAttribute", "rbARISAttrDataType", &gOptDataTypeFromAttribute, true},
+    FlagOption{"ConvertNames", "cbConvertARISNames", &gBlock.gOptConvertNames, true},
+    FlagOption{"RemoveLineBreaks", "cbRemoveLineBreaks", &gBlock.gOptRemoveLineBreaks, true},
+    FlagOption{"UseDataConBendPoints", "cbDrawDataConWithBendPoints", &gBlock.gOptUseDataConBendPoints, true},
+    FlagOption{"UseCtrlConBendPoints", "cbDrawControlConWithBendPoints", &gBlock.gOptUseCtrlConBendPoints,
+               true},
+    FlagOption{"UseDescriptionAttr", "cbWriteDescription", &gBlock.gOptUseDescriptionAttr, true},
+    FlagOption{"UseDocumentationAttr", "cbWriteDocumentation", &gBlock.gOptUseDocumentationAttr, true},
+    FlagOption{"UseOtherSettings", "cbWriteOtherSettings", &gBlock.gOptUseOtherSettings, false},
+    FlagOption{"DynamicStaffAssignment", "cbDynamicStaffAssignment", &gBlock.gOptDynamicStaffAssignment,
+               true},
+    FlagOption{"FindDataFlowLoops", "cbDataFlowLoops", &gBlock.gOptFindDataFlowLoops, true},
+    FlagOption{"FindControlFlowLoops", "cbControlFlowLoops", &gBlock.gOptFindControlFlowLoops, true},
+    FlagOption{"StartConditions", "cbStartConditions", &gBlock.gOptStartConditions, false},
+    FlagOption{"ExitConditions", "cbExitConditions", &gBlock.gOptExitConditions, false},
+    FlagOption{"TransitionConditions", "cbTransitionConditions", &gBlock.gOptTransitionConditions, false},
+    FlagOption{"DataTypeFromAttribute", "rbARISAttrDataType", &gBlock.gOptDataTypeFromAttribute, true},
 };
 
 void PrintTo(const FlagOption& option, std::ostream* stream) {
@@ -124,7 +126,7 @@ class SuffixOptionTest : public OptionsFixture {
     void ExpectLoaded(const ProfileValue& stored, std::int32_t number, const std::string& text) {
         Store("FirstSuffixNumber", stored);
         EXPECT_EQ(Show(), std::nullopt);
-        EXPECT_EQ(gOptFirstSuffixNumber, number);
+        EXPECT_EQ(gBlock.gOptFirstSuffixNumber, number);
         EXPECT_EQ(SuffixText(), text);
         EXPECT_FALSE(form_.bDirty);
     }
@@ -143,7 +145,7 @@ class SuffixOptionTest : public OptionsFixture {
 
 TEST_F(SuffixOptionTest, Is0WhereNothingIsStored) {
     EXPECT_EQ(Show(), std::nullopt);
-    EXPECT_EQ(gOptFirstSuffixNumber, 0);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 0);
     EXPECT_EQ(SuffixText(), "0");
     EXPECT_THAT(profileStore_.writes, IsEmpty());
 }
@@ -192,27 +194,27 @@ TEST_F(SuffixOptionTest, AStoredTextBeyond32BitsEndsTheRun) {
 TEST_F(SuffixOptionTest, TakesTheMachinesNumberWhereTheUserHasNone) {
     StoreForMachine("FirstSuffixNumber", 9);
     EXPECT_EQ(Show(), std::nullopt);
-    EXPECT_EQ(gOptFirstSuffixNumber, 9);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 9);
 }
 
 TEST_F(SuffixOptionTest, StoresTheNumberOfItsText) {
     EXPECT_EQ(ApplyPasted("0042"), std::nullopt);
     EXPECT_EQ(Stored("FirstSuffixNumber"), ProfileValue(42));
-    EXPECT_EQ(gOptFirstSuffixNumber, 42);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 42);
     EXPECT_EQ(SuffixText(), "0042");
 }
 
 TEST_F(SuffixOptionTest, StoresAnEmptyTextAs0) {
-    gOptFirstSuffixNumber = 7;
+    gBlock.gOptFirstSuffixNumber = 7;
     EXPECT_EQ(ApplyPasted(""), std::nullopt);
     EXPECT_EQ(Stored("FirstSuffixNumber"), ProfileValue(0));
-    EXPECT_EQ(gOptFirstSuffixNumber, 0);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 0);
 }
 
 TEST_F(SuffixOptionTest, StoresAPastedNegativeNumberAsItIs) {
     EXPECT_EQ(ApplyPasted("-5"), std::nullopt);
     EXPECT_EQ(Stored("FirstSuffixNumber"), ProfileValue(-5));
-    EXPECT_EQ(gOptFirstSuffixNumber, -5);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, -5);
 }
 
 TEST_F(SuffixOptionTest, StoresAPastedFractionRounded) {
@@ -264,7 +266,7 @@ TEST_F(StoredOptionsTest, AMachinesValueCountsUntilTheFirstSaveStoresOneOfTheUse
     StoreForMachine("UseOtherSettings", 0);
     frmExportOptions next;
     next.LoadOptions();
-    EXPECT_TRUE(gOptUseOtherSettings);
+    EXPECT_TRUE(gBlock.gOptUseOtherSettings);
 }
 
 TEST_F(StoredOptionsTest, TheGlobalsFollowTheControlsAtASaveAndNotBefore) {
@@ -272,13 +274,13 @@ TEST_F(StoredOptionsTest, TheGlobalsFollowTheControlsAtASaveAndNotBefore) {
         form_.Click("cbConvertARISNames");
         form_.Click("rbARISDomainType");
         form_.Change("31");
-        EXPECT_TRUE(gOptConvertNames);
-        EXPECT_TRUE(gOptDataTypeFromAttribute);
-        EXPECT_EQ(gOptFirstSuffixNumber, 0);
+        EXPECT_TRUE(gBlock.gOptConvertNames);
+        EXPECT_TRUE(gBlock.gOptDataTypeFromAttribute);
+        EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 0);
         form_.Apply();
-        EXPECT_FALSE(gOptConvertNames);
-        EXPECT_FALSE(gOptDataTypeFromAttribute);
-        EXPECT_EQ(gOptFirstSuffixNumber, 31);
+        EXPECT_FALSE(gBlock.gOptConvertNames);
+        EXPECT_FALSE(gBlock.gOptDataTypeFromAttribute);
+        EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 31);
     });
 }
 
@@ -289,7 +291,7 @@ TEST_F(StoredOptionsTest, TheGlobalsFollowASaveThatTheStoreRefuses) {
                   form_.Apply();
               }),
               std::nullopt);
-    EXPECT_FALSE(gOptConvertNames);
+    EXPECT_FALSE(gBlock.gOptConvertNames);
     EXPECT_THAT(profileStore_.writes, SizeIs(15));
     EXPECT_THAT(Boxes(), IsEmpty());
 }
@@ -302,12 +304,12 @@ TEST_F(StoredOptionsTest, WhatIsSavedIsLoadedAgain) {
         form_.Apply();
     });
     RenewGlobals();
-    gPlatform = &platform_;
+    gBlock.gPlatform = &platform_;
     frmExportOptions next;
     next.LoadOptions();
     for (const FlagOption& option : flagOptions)
         EXPECT_EQ(*option.global, !option.byDefault) << option.valueName;
-    EXPECT_EQ(gOptFirstSuffixNumber, 123);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 123);
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ TEST_F(ConnectorAttributesTest, WithoutARuleEveryAttributeThatHasATextIsALine) {
     EXPECT_EQ(SetupPrintingOfConnectorAttribute(paths),
               "\r\n\t\t\tT18 'event' (A9): nine\r\n\t\t\tT18 'event' (A985): a b");
     EXPECT_EQ(SetupPrintingOfConnectorAttribute(paths, ""), SetupPrintingOfConnectorAttribute(paths));
-    gOptRemoveLineBreaks = false;
+    gBlock.gOptRemoveLineBreaks = false;
     EXPECT_EQ(SetupPrintingOfConnectorAttribute(paths),
               "\r\n\t\t\tT18 'event' (A9): nine\r\n\t\t\tT18 'event' (A985): a\r\nb");
 }

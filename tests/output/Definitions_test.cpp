@@ -21,14 +21,14 @@ class DefinitionsTest : public CoreTest {
   protected:
     static Ref<clsDATA_MEMBER> Member(const std::string& name, const std::string& type,
                                       const std::string& size = {}) {
-        const Ref<clsDATA_MEMBER> member = gPool.Create<clsDATA_MEMBER>();
+        const Ref<clsDATA_MEMBER> member = gBlock.gPool.Create<clsDATA_MEMBER>();
         member->MemberName = name;
         member->DataType = type;
         member->SizeOfArray = size;
         return member;
     }
     static Ref<clsPERSON> Person(const std::string& name, const std::string& substitute) {
-        const Ref<clsPERSON> person = gPool.Create<clsPERSON>();
+        const Ref<clsPERSON> person = gBlock.gPool.Create<clsPERSON>();
         person->PersonName = name;
         person->SUBSTITUTE = substitute;
         return person;
@@ -38,7 +38,7 @@ class DefinitionsTest : public CoreTest {
 TEST_F(DefinitionsTest, AStructureWithoutMembers) {
     clsDATA_STRUCTURE structure;
     structure.ObjectName = "'Order'";
-    gWPXWriter->WriteDataStructure(structure);
+    gBlock.gWPXWriter->WriteDataStructure(structure);
     EXPECT_EQ(Written(), "\nSTRUCTURE 'Order'\nEND 'Order'\n");
 }
 
@@ -56,7 +56,7 @@ TEST_F(DefinitionsTest, AStructureWithAllItsLines) {
     structure.ColDATA_MEMBER.Add(described);
     structure.ColDATA_MEMBER.Add(documented);
     structure.ColDATA_MEMBER.Add(Member("", "STRING"));
-    gWPXWriter->WriteDataStructure(structure);
+    gBlock.gWPXWriter->WriteDataStructure(structure);
     EXPECT_EQ(Written(),
               "\nSTRUCTURE 'Order'\n"
               "\tDESCRIPTION 'what'\n"
@@ -75,7 +75,7 @@ TEST_F(DefinitionsTest, AnEmptyMemberEndsTheRun) {
     clsDATA_STRUCTURE structure;
     structure.ColDATA_MEMBER.Add(nullptr, "{1}");
     EXPECT_EQ(EndOf([&] {
-                  gWPXWriter->WriteDataStructure(structure);
+                  gBlock.gWPXWriter->WriteDataStructure(structure);
               }),
               FailureKind::objectNotSet);
     EXPECT_THAT(Boxes(), ElementsAre("C91 in clsWPXWriter.WriteDataStructure: object not set"));
@@ -85,10 +85,10 @@ TEST_F(DefinitionsTest, AnEmptyMemberEndsTheRun) {
 TEST_F(DefinitionsTest, ACategory) {
     clsPROCESS_CATEGORY category;
     category.ObjectName = "'Sales'";
-    gWPXWriter->WriteProcessCategory(category);
+    gBlock.gWPXWriter->WriteProcessCategory(category);
     category.DESCRIPTION = "'what'";
     category.DOCUMENTATION = "'how'";
-    gWPXWriter->WriteProcessCategory(category);
+    gBlock.gWPXWriter->WriteProcessCategory(category);
     EXPECT_EQ(Written(),
               "\nPROCESS_CATEGORY 'Sales'\nEND 'Sales'\n"
               "\nPROCESS_CATEGORY 'Sales'\n\tDESCRIPTION 'what'\n\tDOCUMENTATION 'how'\nEND 'Sales'\n");
@@ -97,13 +97,13 @@ TEST_F(DefinitionsTest, ACategory) {
 TEST_F(DefinitionsTest, AProgram) {
     clsPROGRAM program;
     program.ObjectName = "'Ledger'";
-    gWPXWriter->WriteProgram(program);
+    gBlock.gWPXWriter->WriteProgram(program);
     program.InputContainer->ObjectName = "'In'";
     program.OutputContainer->ObjectName = "'Out'";
     program.DESCRIPTION = "'what'";
     program.DOCUMENTATION = "'how'";
     program.OtherSettings = "EXE (PATH 'x')\r\n\tMORE";
-    gWPXWriter->WriteProgram(program);
+    gBlock.gWPXWriter->WriteProgram(program);
     EXPECT_EQ(Written(),
               "\nPROGRAM 'Ledger' ('Default Data Structure', 'Default Data Structure')\nEND 'Ledger'\n"
               "\nPROGRAM 'Ledger' ('In', 'Out')\n"
@@ -116,11 +116,11 @@ TEST_F(DefinitionsTest, AProgram) {
 TEST_F(DefinitionsTest, ARole) {
     clsROLE role;
     role.ObjectName = "'Clerk'";
-    gWPXWriter->WriteRole(role);
+    gBlock.gWPXWriter->WriteRole(role);
     role.DESCRIPTION = "'what'";
     role.COORDINATOR = "'JO'";
     role.RELATED_PERSON = "'A' 'B'";
-    gWPXWriter->WriteRole(role);
+    gBlock.gWPXWriter->WriteRole(role);
     EXPECT_EQ(Written(),
               "\nROLE 'Clerk'\nEND 'Clerk'\n"
               "\nROLE 'Clerk'\n"
@@ -131,19 +131,19 @@ TEST_F(DefinitionsTest, ARole) {
 }
 
 TEST_F(DefinitionsTest, AnUnnamedObjectIsABareKeyword) {
-    gWPXWriter->WriteRole(clsROLE());
+    gBlock.gWPXWriter->WriteRole(clsROLE());
     EXPECT_EQ(Written(), "\nROLE \nEND \n");
 }
 
 TEST_F(DefinitionsTest, EverySortOfUnnamedObjectIsABareKeyword) {
     clsDATA_STRUCTURE structure;
     structure.ObjectName = "";
-    gWPXWriter->WriteDataStructure(structure);
-    gWPXWriter->WriteProcessCategory(clsPROCESS_CATEGORY());
-    gWPXWriter->WriteProgram(clsPROGRAM());
-    gWPXWriter->WritePerson(*Person("", "'JO'"), false);
-    gWPXWriter->WritePerson(*Person("", "'JO'"), true);
-    gWPXWriter->WriteOrganization(clsORGANIZATION(), false);
+    gBlock.gWPXWriter->WriteDataStructure(structure);
+    gBlock.gWPXWriter->WriteProcessCategory(clsPROCESS_CATEGORY());
+    gBlock.gWPXWriter->WriteProgram(clsPROGRAM());
+    gBlock.gWPXWriter->WritePerson(*Person("", "'JO'"), false);
+    gBlock.gWPXWriter->WritePerson(*Person("", "'JO'"), true);
+    gBlock.gWPXWriter->WriteOrganization(clsORGANIZATION(), false);
     EXPECT_EQ(Written(),
               "\nSTRUCTURE \nEND \n"
               "\nPROCESS_CATEGORY \nEND \n"
@@ -159,14 +159,14 @@ TEST_F(DefinitionsTest, APerson) {
     person.RELATED_ROLE = "'not printed'";
     person.RELATED_ORGANIZATION = "'not printed'";
     person.SUBSTITUTE = "'not yet'";
-    gWPXWriter->WritePerson(person, false);
+    gBlock.gWPXWriter->WritePerson(person, false);
     person.DESCRIPTION = "'what'";
     person.FIRST_NAME = "'Jo'";
     person.LAST_NAME = "'Doe'";
     person.PHONE = "'1'";
     person.SECOND_PHONE = "'2'";
     person.OtherSettings = "LEVEL 3";
-    gWPXWriter->WritePerson(person, false);
+    gBlock.gWPXWriter->WritePerson(person, false);
     EXPECT_EQ(Written(),
               "\nPERSON 'JO'\nEND 'JO'\n"
               "\nPERSON 'JO'\n"
@@ -183,13 +183,13 @@ TEST_F(DefinitionsTest, AnOrganization) {
     clsORGANIZATION organization;
     organization.ObjectName = "'Sales'";
     organization.PARENT_ORGANIZATION = "'not yet'";
-    gWPXWriter->WriteOrganization(organization, false);
+    gBlock.gWPXWriter->WriteOrganization(organization, false);
     organization.DESCRIPTION = "'what'";
     organization.MANAGER = "'JO'";
     organization.RELATED_PERSON = "'A' 'B'";
-    gWPXWriter->WriteOrganization(organization, false);
+    gBlock.gWPXWriter->WriteOrganization(organization, false);
     organization.MANAGER = "";
-    gWPXWriter->WriteOrganization(organization, false);
+    gBlock.gWPXWriter->WriteOrganization(organization, false);
     EXPECT_EQ(Written(),
               "\nORGANIZATION 'Sales'\n\tMANAGER 'ADMIN'\nEND 'Sales'\n"
               "\nORGANIZATION 'Sales'\n"
@@ -204,29 +204,29 @@ TEST_F(DefinitionsTest, AnOrganization) {
 }
 
 TEST_F(DefinitionsTest, TheSecondPassOverPersonsLeavesAnEmptyLineForEachWithoutASubstitute) {
-    gColPERSON.Add(Person("'A'", ""));
-    gColPERSON.Add(Person("'B'", "'C'"));
-    gColPERSON.Add(Person("'C'", ""));
-    gWPXWriter->WriteAllPerson(true);
+    gBlock.gColPERSON.Add(Person("'A'", ""));
+    gBlock.gColPERSON.Add(Person("'B'", "'C'"));
+    gBlock.gColPERSON.Add(Person("'C'", ""));
+    gBlock.gWPXWriter->WriteAllPerson(true);
     EXPECT_EQ(Written(), "\n\nUPDATE PERSON 'B'\n\tSUBSTITUTE 'C'\nEND 'B'\n\n");
 }
 
 TEST_F(DefinitionsTest, TheSecondPassOverOrganizationsLeavesAnEmptyLineForEachWithoutAParent) {
-    const Ref<clsORGANIZATION> company = gPool.Create<clsORGANIZATION>();
+    const Ref<clsORGANIZATION> company = gBlock.gPool.Create<clsORGANIZATION>();
     company->ObjectName = "'Company'";
-    const Ref<clsORGANIZATION> sales = gPool.Create<clsORGANIZATION>();
+    const Ref<clsORGANIZATION> sales = gBlock.gPool.Create<clsORGANIZATION>();
     sales->ObjectName = "'Sales'";
     sales->PARENT_ORGANIZATION = "'Company'";
-    gColORGANIZATION.Add(sales);
-    gColORGANIZATION.Add(company);
-    gWPXWriter->WriteAllOrganization(true);
+    gBlock.gColORGANIZATION.Add(sales);
+    gBlock.gColORGANIZATION.Add(company);
+    gBlock.gWPXWriter->WriteAllOrganization(true);
     EXPECT_EQ(Written(), "\nUPDATE ORGANIZATION 'Sales'\n\tPARENT_ORGANIZATION 'Company'\nEND 'Sales'\n\n");
 }
 
 TEST_F(DefinitionsTest, ASectionHoldsItsObjectsInTheirOrder) {
-    gColPERSON.Add(Person("'B'", ""));
-    gColPERSON.Add(Person("'A'", ""));
-    EXPECT_EQ(gWPXWriter->WriteAllPerson(false), 2);
+    gBlock.gColPERSON.Add(Person("'B'", ""));
+    gBlock.gColPERSON.Add(Person("'A'", ""));
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllPerson(false), 2);
     EXPECT_EQ(Written(), "\n/*\n*  \n*  PERSONs\n*  \n*/\n\nPERSON 'B'\nEND 'B'\n\nPERSON 'A'\nEND 'A'\n");
 }
 

@@ -41,7 +41,7 @@ class HeaderTest : public CoreTest {
 };
 
 TEST_F(HeaderTest, TellsWhenAndFromWhereTheFileComes) {
-    gWPXWriter->WriteWPXHeader();
+    gBlock.gWPXWriter->WriteWPXHeader();
     EXPECT_EQ(Written(),
               "/*\n"
               "*  \n"
@@ -59,47 +59,47 @@ TEST_F(HeaderTest, TellsWhenAndFromWhereTheFileComes) {
 }
 
 TEST_F(HeaderTest, TellsOfAProfileWithoutItsName) {
-    gIOHandler->MappingProfileFound = true;
-    gWPXWriter->WriteWPXHeader();
+    gBlock.gIOHandler->MappingProfileFound = true;
+    gBlock.gWPXWriter->WriteWPXHeader();
     EXPECT_THAT(Written(), HasSubstr("\n*  Mapping rules taken from profile \n"));
     EXPECT_THAT(Written(), Not(HasSubstr("Default")));
 }
 
 TEST_F(HeaderTest, ASectionBeginsWithAnEmptyLineAndItsTitle) {
-    gWPXWriter->WriteSectionHeader("ROLEs");
+    gBlock.gWPXWriter->WriteSectionHeader("ROLEs");
     EXPECT_EQ(Written(), "\n/*\n*  \n*  ROLEs\n*  \n*/\n");
 }
 
 TEST_F(HeaderTest, EmptySectionsHaveTheirHeadersAndCountNothing) {
-    gWPXWriter->WriteAll();
+    gBlock.gWPXWriter->WriteAll();
     EXPECT_THAT(Titles(), ElementsAre("DATA_STRUCTUREs", "PROCESS_CATEGORYs", "PROGRAMs", "PERSONs", "ROLEs",
                                       "ORGANIZATIONs", "PROCESSES"));
     EXPECT_THAT(Notes(), ElementsAre("I3110|0"));
-    EXPECT_EQ(gRunReport.objectsWritten, 0U);
+    EXPECT_EQ(gBlock.gRunReport.objectsWritten, 0U);
 }
 
 TEST_F(HeaderTest, EveryObjectCountsOnce) {
     const auto make = [](auto& registry, auto object) {
         registry.Add(object);
     };
-    make(gColDATA_STRUCTURE, gPool.Create<clsDATA_STRUCTURE>());
-    make(gColPROCESS_CATEGORY, gPool.Create<clsPROCESS_CATEGORY>());
-    make(gColPROGRAM, gPool.Create<clsPROGRAM>());
-    for (int i = 0; i < 2; ++i) make(gColPERSON, gPool.Create<clsPERSON>());
-    for (int i = 0; i < 3; ++i) make(gColROLE, gPool.Create<clsROLE>());
-    for (int i = 0; i < 4; ++i) make(gColORGANIZATION, gPool.Create<clsORGANIZATION>());
-    EXPECT_EQ(gWPXWriter->WriteAllDataStructure(), 1);
-    EXPECT_EQ(gWPXWriter->WriteAllProcessCategory(), 1);
-    EXPECT_EQ(gWPXWriter->WriteAllProgram(), 1);
-    EXPECT_EQ(gWPXWriter->WriteAllPerson(false), 2);
-    EXPECT_EQ(gWPXWriter->WriteAllPerson(true), 0);
-    EXPECT_EQ(gWPXWriter->WriteAllRole(), 3);
-    EXPECT_EQ(gWPXWriter->WriteAllOrganization(false), 4);
-    EXPECT_EQ(gWPXWriter->WriteAllOrganization(true), 0);
-    EXPECT_EQ(gWPXWriter->WriteAllProcess(), 0);
-    gWPXWriter->WriteAll();
+    make(gBlock.gColDATA_STRUCTURE, gBlock.gPool.Create<clsDATA_STRUCTURE>());
+    make(gBlock.gColPROCESS_CATEGORY, gBlock.gPool.Create<clsPROCESS_CATEGORY>());
+    make(gBlock.gColPROGRAM, gBlock.gPool.Create<clsPROGRAM>());
+    for (int i = 0; i < 2; ++i) make(gBlock.gColPERSON, gBlock.gPool.Create<clsPERSON>());
+    for (int i = 0; i < 3; ++i) make(gBlock.gColROLE, gBlock.gPool.Create<clsROLE>());
+    for (int i = 0; i < 4; ++i) make(gBlock.gColORGANIZATION, gBlock.gPool.Create<clsORGANIZATION>());
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllDataStructure(), 1);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllProcessCategory(), 1);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllProgram(), 1);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllPerson(false), 2);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllPerson(true), 0);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllRole(), 3);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllOrganization(false), 4);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllOrganization(true), 0);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllProcess(), 0);
+    gBlock.gWPXWriter->WriteAll();
     EXPECT_THAT(Notes(3110), ElementsAre("I3110|12"));
-    EXPECT_EQ(gRunReport.objectsWritten, 12U);
+    EXPECT_EQ(gBlock.gRunReport.objectsWritten, 12U);
 }
 
 TEST_F(HeaderTest, ActivitiesAndConnectorsCountAlsoThoseThatAreNotPrinted) {
@@ -112,25 +112,25 @@ TEST_F(HeaderTest, ActivitiesAndConnectorsCountAlsoThoseThatAreNotPrinted) {
     Reads(pay, data);
     FinishedProcess();
     // A process, two activities, two control connectors of which one is a loop, and a data connector.
-    EXPECT_EQ(gWPXWriter->WriteAllProcess(), 6);
-    gWPXWriter->WriteAll();
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllProcess(), 6);
+    gBlock.gWPXWriter->WriteAll();
     // The structure of the data as well.
     EXPECT_THAT(Notes(3110), ElementsAre("I3110|7"));
-    EXPECT_EQ(gRunReport.processes, 1U);
+    EXPECT_EQ(gBlock.gRunReport.processes, 1U);
 }
 
 TEST_F(HeaderTest, AFailureLeavesWhatIsWrittenAndNoCount) {
-    const Ref<clsPROGRAM> program = gPool.Create<clsPROGRAM>();
+    const Ref<clsPROGRAM> program = gBlock.gPool.Create<clsPROGRAM>();
     program->InputContainer = nullptr;
-    gColPROGRAM.Add(program);
+    gBlock.gColPROGRAM.Add(program);
     EXPECT_EQ(EndOf([] {
-                  gWPXWriter->WriteAll();
+                  gBlock.gWPXWriter->WriteAll();
               }),
               FailureKind::objectNotSet);
     EXPECT_THAT(Boxes(), ElementsAre("C91 in clsWPXWriter.WriteProgram: object not set"));
     EXPECT_THAT(Titles(), ElementsAre("DATA_STRUCTUREs", "PROCESS_CATEGORYs", "PROGRAMs"));
     EXPECT_THAT(Notes(), IsEmpty());
-    EXPECT_EQ(gRunReport.objectsWritten, 0U);
+    EXPECT_EQ(gBlock.gRunReport.objectsWritten, 0U);
 }
 
 TEST(Indent, IsATabForEachLevel) {

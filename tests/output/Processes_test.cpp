@@ -32,7 +32,7 @@ class WrittenProcessesTest : public CoreTest {
 TEST_F(WrittenProcessesTest, AProcessWithoutActivitiesIsItsHeadAndItsEnd) {
     clsPROCESS process;
     process.ProcessName = "'Orders'";
-    EXPECT_EQ(gWPXWriter->WriteProcess(process), 0);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteProcess(process), 0);
     EXPECT_EQ(Written(), std::string("\nPROCESS 'Orders'") + containers + "\nEND 'Orders'\n");
 }
 
@@ -49,7 +49,7 @@ TEST_F(WrittenProcessesTest, AProcessWithAllItsLines) {
     process.Col_SOURCE.Add("SOURCE 2 XPOS 3 YPOS 4");
     process.Col_SINK.Add("SINK 1 XPOS 5 YPOS 6");
     process.OtherSettings = "PRIORITY 1";
-    gWPXWriter->WriteProcess(process);
+    gBlock.gWPXWriter->WriteProcess(process);
     EXPECT_EQ(Written(),
               "\nPROCESS 'Orders' ('In', 'Out')\n"
               "\tDESCRIPTION 'what'\n"
@@ -67,7 +67,7 @@ TEST_F(WrittenProcessesTest, AProcessWithoutAContainerEndsTheRun) {
     clsPROCESS process;
     process.OutputContainer = nullptr;
     EXPECT_EQ(EndOf([&] {
-                  gWPXWriter->WriteProcess(process);
+                  gBlock.gWPXWriter->WriteProcess(process);
               }),
               FailureKind::objectNotSet);
     EXPECT_THAT(Boxes(), ElementsAre("C91 in clsWPXWriter.WriteProcess: object not set"));
@@ -80,7 +80,7 @@ TEST_F(WrittenProcessesTest, AnActivityWithoutAContainerEndsTheRun) {
         clsACTIVITY bare;
         bare.*container = nullptr;
         EXPECT_EQ(EndOf([&] {
-                      gWPXWriter->WriteActivity(bare);
+                      gBlock.gWPXWriter->WriteActivity(bare);
                   }),
                   FailureKind::objectNotSet);
         EXPECT_EQ(Boxes().back(), "C91 in clsWPXWriter.WriteActivity: object not set");
@@ -92,7 +92,7 @@ TEST_F(WrittenProcessesTest, UnnamedOnesAreBareKeywords) {
     clsPROCESS process;
     activity.ActivityName = "";
     process.Col_ACTIVITY.Add(&activity);
-    EXPECT_EQ(gWPXWriter->WriteProcess(process), 1);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteProcess(process), 1);
     EXPECT_EQ(Written(), std::string("\nPROCESS ") + containers + "\n\tPROGRAM_ACTIVITY " + containers +
                              "\t\tSTART MANUAL WHEN AT_LEAST_ONE CONNECTOR TRUE\n"
                              "\tEND \n"
@@ -114,7 +114,7 @@ TEST_F(WrittenProcessesTest, ActivitiesComeFirstThenControlThenDataConnectors) {
     process.Col_DATA_CONNECTOR.Add(&data[1]);
     process.Col_CONTROL_CONNECTOR.Add(&second);
     process.Col_ACTIVITY.Add(&other);
-    EXPECT_EQ(gWPXWriter->WriteProcess(process), 6);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteProcess(process), 6);
     const std::string start = "\t\tSTART MANUAL WHEN AT_LEAST_ONE CONNECTOR TRUE\n";
     EXPECT_EQ(Written(), std::string("\nPROCESS 'P'") + containers + "\n\tPROGRAM_ACTIVITY 'Check'" +
                              containers + start + "\tEND 'Check'\n" + "\n\tPROGRAM_ACTIVITY 'Again'" +
@@ -129,13 +129,13 @@ TEST_F(WrittenProcessesTest, AnEmptyLayoutOrMappingOfACollectionIsALineOfItsOwn)
     clsDATA_CONNECTOR data;
     data.ColMapping.Add("");
     process.Col_DATA_CONNECTOR.Add(&data);
-    gWPXWriter->WriteProcess(process);
+    gBlock.gWPXWriter->WriteProcess(process);
     EXPECT_EQ(Written(),
               std::string("\nPROCESS ") + containers + "\t\n\t\n" + "\n\tDATA\n\t\t\n" + "\nEND \n");
 }
 
 TEST_F(WrittenProcessesTest, AProgramActivityBeginsWithItsStartLineOnly) {
-    gWPXWriter->WriteActivity(activity);
+    gBlock.gWPXWriter->WriteActivity(activity);
     EXPECT_EQ(Written(), std::string("\n\tPROGRAM_ACTIVITY 'Check'") + containers +
                              "\t\tSTART MANUAL WHEN AT_LEAST_ONE CONNECTOR TRUE\n"
                              "\tEND 'Check'\n");
@@ -156,7 +156,7 @@ TEST_F(WrittenProcessesTest, AnActivityWithAllItsLines) {
     activity.PROCESS = "'not printed'";
     activity.SUPPORT_TOOL = "'not printed'";
     activity.OtherSettings = "PRIORITY 1";
-    gWPXWriter->WriteActivity(activity);
+    gBlock.gWPXWriter->WriteActivity(activity);
     EXPECT_EQ(Written(),
               "\n\tPROGRAM_ACTIVITY 'Check' ('In', 'Out')\n"
               "\t\tDESCRIPTION 'what'\n"
@@ -175,9 +175,9 @@ TEST_F(WrittenProcessesTest, AnActivityWithAllItsLines) {
 TEST_F(WrittenProcessesTest, AProcessActivityNamesItsProcessAndNoProgram) {
     activity.AssignedModel = model;
     activity.PROGRAM = "'not printed'";
-    gWPXWriter->WriteActivity(activity);
+    gBlock.gWPXWriter->WriteActivity(activity);
     activity.PROCESS = "'Refined'";
-    gWPXWriter->WriteActivity(activity);
+    gBlock.gWPXWriter->WriteActivity(activity);
     const std::string head = std::string("\n\tPROCESS_ACTIVITY 'Check'") + containers +
                              "\t\tSTART MANUAL WHEN AT_LEAST_ONE CONNECTOR TRUE\n";
     EXPECT_EQ(Written(), head + "\tEND 'Check'\n" + head + "\t\tPROCESS 'Refined'\n\tEND 'Check'\n");
@@ -186,7 +186,7 @@ TEST_F(WrittenProcessesTest, AProcessActivityNamesItsProcessAndNoProgram) {
 TEST_F(WrittenProcessesTest, EmptyModesLeaveTheirBlanks) {
     activity.StartMode = activity.StartCondition = activity.ExitMode = "";
     activity.ExitCondition = "x";
-    gWPXWriter->WriteActivity(activity);
+    gBlock.gWPXWriter->WriteActivity(activity);
     EXPECT_EQ(Written(), std::string("\n\tPROGRAM_ACTIVITY 'Check'") + containers +
                              "\t\tSTART  WHEN  TRUE\n"
                              "\t\tEXIT  WHEN 'x'\n"
@@ -195,8 +195,8 @@ TEST_F(WrittenProcessesTest, EmptyModesLeaveTheirBlanks) {
 
 TEST_F(WrittenProcessesTest, AConnectorWithNothingIsItsKeyword) {
     clsDATA_CONNECTOR data;
-    gWPXWriter->WriteControlConnector(connector);
-    gWPXWriter->WriteDataConnector(data);
+    gBlock.gWPXWriter->WriteControlConnector(connector);
+    gBlock.gWPXWriter->WriteDataConnector(data);
     EXPECT_EQ(Written(), "\n\tCONTROL\n\n\tDATA\n");
 }
 
@@ -205,7 +205,7 @@ TEST_F(WrittenProcessesTest, AControlConnectorWithAllItsLines) {
     connector.Linking = "FROM 'A' TO 'B'";
     connector.Condition = "''x y'' = \"1\"";
     connector.LAYOUT = "XPOS 1 YPOS 2";
-    gWPXWriter->WriteControlConnector(connector);
+    gBlock.gWPXWriter->WriteControlConnector(connector);
     EXPECT_EQ(Written(),
               "\n\tCONTROL\n"
               "\t\tDESCRIPTION 'what'\n"
@@ -217,7 +217,7 @@ TEST_F(WrittenProcessesTest, AControlConnectorWithAllItsLines) {
 TEST_F(WrittenProcessesTest, AControlConnectorFromAnActivityToItselfIsNotPrinted) {
     connector.TO_ARISObjectDefinition = connector.FROM_ARISObjectDefinition;
     connector.Condition = "x";
-    gWPXWriter->WriteControlConnector(connector);
+    gBlock.gWPXWriter->WriteControlConnector(connector);
     EXPECT_EQ(Written(), "");
 }
 
@@ -228,7 +228,7 @@ TEST_F(WrittenProcessesTest, ADataConnectorWithAllItsLines) {
     data.ColMapping.Add("MAP 'x' TO 'x'");
     data.ColMapping.Add("MAP 'y' TO 'y'");
     data.LAYOUT = "XPOS 1 YPOS 2";
-    gWPXWriter->WriteDataConnector(data);
+    gBlock.gWPXWriter->WriteDataConnector(data);
     EXPECT_EQ(Written(),
               "\n\tDATA\n"
               "\t\tDESCRIPTION 'what'\n"
@@ -248,7 +248,7 @@ TEST_F(WrittenProcessesTest, AWholeProcess) {
     Writes(check, data);
     Reads(pay, data);
     FinishedProcess();
-    EXPECT_EQ(gWPXWriter->WriteAllProcess(), 6);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllProcess(), 6);
     EXPECT_EQ(Written(),
               "\n/*\n*  \n*  PROCESSES\n*  \n*/\n"
               "\nPROCESS 'Claims' ('Default Data Structure', 'Default Data Structure')\n"
@@ -274,11 +274,11 @@ TEST_F(WrittenProcessesTest, AWholeProcess) {
 
 TEST_F(WrittenProcessesTest, ProcessesComeInTheirOrder) {
     for (const char* name : {"'B'", "'A'"}) {
-        const Ref<clsPROCESS> process = gPool.Create<clsPROCESS>();
+        const Ref<clsPROCESS> process = gBlock.gPool.Create<clsPROCESS>();
         process->ProcessName = name;
-        gColPROCESS.Add(process);
+        gBlock.gColPROCESS.Add(process);
     }
-    EXPECT_EQ(gWPXWriter->WriteAllProcess(), 2);
+    EXPECT_EQ(gBlock.gWPXWriter->WriteAllProcess(), 2);
     EXPECT_LT(Written().find("END 'B'"), Written().find("PROCESS 'A'"));
 }
 

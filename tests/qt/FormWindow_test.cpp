@@ -59,7 +59,7 @@ TEST_F(FormWindow, ShowsTheCaptionsOfTheLanguageLibrary) {
 
 TEST_F(FormWindow, ACaptionThatTheLibraryLacksSaysSo) {
     languageLibraries_.Put("wxbrgENU.dll", {{50000, "Title"}});
-    gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
+    gBlock.gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
     ShowWindow([&] {
         EXPECT_EQ(window_->windowTitle(), "Title");
         EXPECT_EQ(Tabs().tabText(1), "Error :\nThe Resource ID '50002' was not found");
@@ -71,7 +71,7 @@ TEST_F(FormWindow, ACaptionThatTheLibraryLacksSaysSo) {
 TEST_F(FormWindow, EachActivationSetsTheCaptionsAnew) {
     ShowWindow([&] {
         languageLibraries_.Put("wxbrgENU.dll", {{50000, "Other title"}, {50003, "Other tab"}});
-        gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
+        gBlock.gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
         QEvent activation(QEvent::WindowActivate);
         QApplication::sendEvent(window_, &activation);
         EXPECT_EQ(window_->windowTitle(), "Other title");
@@ -211,7 +211,7 @@ TEST_F(FormWindow, ClosingTheWindowAsksNothingAndStoresNothing) {
               std::nullopt);
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(profileStore_.writes, IsEmpty());
-    EXPECT_FALSE(gOptExitConditions);
+    EXPECT_FALSE(gBlock.gOptExitConditions);
 }
 
 TEST_F(FormWindow, TheOtherOptionButtonTakesTheSelection) {
@@ -301,7 +301,7 @@ TEST_F(FormWindow, AStoredSuffixOfFiveDigitsShowsFourAndCountsWhole) {
         EXPECT_EQ(Find<QLineEdit>("efNumSuffix").text(), "1234");
         ClickOn("cmdOK");
     });
-    EXPECT_EQ(gOptFirstSuffixNumber, 12345);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 12345);
     EXPECT_EQ(Stored("FirstSuffixNumber"), ProfileValue(12345));
 }
 
@@ -311,7 +311,7 @@ TEST_F(FormWindow, AStoredSuffixOfFiveDigitsIsStoredAsTheFieldHasItByASave) {
         ClickOn("cbExitConditions");
         ClickOn("cmdOK");
     });
-    EXPECT_EQ(gOptFirstSuffixNumber, 1234);
+    EXPECT_EQ(gBlock.gOptFirstSuffixNumber, 1234);
     EXPECT_EQ(Stored("FirstSuffixNumber"), ProfileValue(1234));
 }
 
@@ -343,7 +343,7 @@ class FormWindowIn : public FormWindow, public testing::WithParamInterface<const
   protected:
     FormWindowIn() {
         DlLanguageLibraries libraries(WXBRG_LANGUAGE_LIBRARIES);
-        gResourceLibrary = libraries.Load("wxbrg" + std::string(GetParam()) + ".dll");
+        gBlock.gResourceLibrary = libraries.Load("wxbrg" + std::string(GetParam()) + ".dll");
     }
 
     /// Presses Alt and the access key of a caption.

@@ -87,14 +87,14 @@ TEST_F(QtHelpViewerTest, CanBeClosedAndAskedAgain) {
 /// The form's window with its help.
 class FormHelp : public FormWindowTest {
   protected:
-    FormHelp() { gHelpFile = "wxbrgENU.hlp"; }
+    FormHelp() { gBlock.gHelpFile = "wxbrgENU.hlp"; }
 
     /// Shows the form's window with another help than the fixture's.
     void ShowWindowWith(HelpViewer& help, const std::function<void()>& act) {
         Platform platform{profileStore_, languageLibraries_, codePage_,   clock_,           userLocale_,
                           fileSystem_,   messageBox_,        fileDialog_, optionsFormView_, help,
                           progress_,     "/program",         "wxbrg"};
-        gPlatform = &platform;
+        gBlock.gPlatform = &platform;
         ShowWindow(act);
     }
     /// What is asked of the help while the user acts.

@@ -98,9 +98,9 @@ TEST_F(GetCommandLineTest, CharactersOutsideAsciiShiftNothing) {
 
 TEST_F(GetCommandLineTest, RestoresTheNameOfTheRunningProcedure) {
     Value("/DB=x", "/DB");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     Value("", "/DB");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(GetCommandLineTest, TakesALineOf32767Characters) {
@@ -124,7 +124,7 @@ class SaveCommandlineArgumentsTest : public RunFixture {
     std::optional<RunEnd> Save(const std::string& commandLine) {
         request_.commandLine = commandLine;
         return RunIn("test.P", [](Frame&) {
-            gARISInterface->SaveCommandlineArguments();
+            gBlock.gARISInterface->SaveCommandlineArguments();
         });
     }
     /// The box that ends the run for a command line.
@@ -141,30 +141,30 @@ TEST_F(SaveCommandlineArgumentsTest, KeepsEachValueWithoutBlanksAroundIt) {
     EXPECT_EQ(
         Save("/usr= Anna B. /DB = ignored /DB=Orders /SVR: host /REG=  r  /SEL= g,n,13;h,m,13 /LOC= 1033 "),
         std::nullopt);
-    EXPECT_EQ(gARISInterface->sUser, "Anna B.");
-    EXPECT_EQ(gARISInterface->sDatabase, "= ignored");
-    EXPECT_EQ(gARISInterface->sServer, "host");
-    EXPECT_EQ(gARISInterface->sRegistry, "r");
-    EXPECT_EQ(gARISInterface->sSelection, "g,n,13;h,m,13");
-    EXPECT_EQ(gLocale, 1033);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gARISInterface->sUser, "Anna B.");
+    EXPECT_EQ(gBlock.gARISInterface->sDatabase, "= ignored");
+    EXPECT_EQ(gBlock.gARISInterface->sServer, "host");
+    EXPECT_EQ(gBlock.gARISInterface->sRegistry, "r");
+    EXPECT_EQ(gBlock.gARISInterface->sSelection, "g,n,13;h,m,13");
+    EXPECT_EQ(gBlock.gLocale, 1033);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(SaveCommandlineArgumentsTest, AMissingSwitchGivesAnEmptyText) {
     EXPECT_EQ(Save("/LOC=1031"), std::nullopt);
-    EXPECT_EQ(gARISInterface->sUser, "");
-    EXPECT_EQ(gARISInterface->sDatabase, "");
-    EXPECT_EQ(gARISInterface->sServer, "");
-    EXPECT_EQ(gARISInterface->sRegistry, "");
-    EXPECT_EQ(gARISInterface->sSelection, "");
-    EXPECT_EQ(gLocale, 1031);
+    EXPECT_EQ(gBlock.gARISInterface->sUser, "");
+    EXPECT_EQ(gBlock.gARISInterface->sDatabase, "");
+    EXPECT_EQ(gBlock.gARISInterface->sServer, "");
+    EXPECT_EQ(gBlock.gARISInterface->sRegistry, "");
+    EXPECT_EQ(gBlock.gARISInterface->sSelection, "");
+    EXPECT_EQ(gBlock.gLocale, 1031);
 }
 
 TEST_F(SaveCommandlineArgumentsTest, RoundsTheLocaleToTheNearestNumberAndATieToTheEvenOne) {
     const auto locale = [&](const std::string& text) {
         EXPECT_EQ(Save("/LOC=" + text), std::nullopt) << text;
-        return gLocale;
+        return gBlock.gLocale;
     };
     EXPECT_EQ(locale("1033.5"), 1034);
     EXPECT_EQ(locale("1032.5"), 1032);
@@ -178,7 +178,7 @@ TEST_F(SaveCommandlineArgumentsTest, RoundsTheLocaleToTheNearestNumberAndATieToT
 TEST_F(SaveCommandlineArgumentsTest, ReadsTheLocaleWithTheUsersDecimalSeparator) {
     userLocale_.decimalSeparator = U',';
     EXPECT_EQ(Save("/LOC=1030,6"), std::nullopt);
-    EXPECT_EQ(gLocale, 1031);
+    EXPECT_EQ(gBlock.gLocale, 1031);
     EXPECT_THAT(Save("/LOC=1030.6"), EndedRun(RunEnding::unknownFailure, 13));
 }
 
@@ -209,27 +209,27 @@ TEST_F(SaveCommandlineArgumentsTest, ALineThatIsTooLongEndsTheRunUnderTheSearchs
 
 TEST_F(SaveCommandlineArgumentsTest, WhatStoodInFrontOfABadLocaleIsKept) {
     Save("/USR=anna /SEL=g,n,13 /LOC=x");
-    EXPECT_EQ(gARISInterface->sUser, "anna");
-    EXPECT_EQ(gARISInterface->sSelection, "g,n,13");
+    EXPECT_EQ(gBlock.gARISInterface->sUser, "anna");
+    EXPECT_EQ(gBlock.gARISInterface->sSelection, "g,n,13");
 }
 
 TEST_F(SaveCommandlineArgumentsTest, ASelectionThatIsHandedOverCountsInPlaceOfTheCommandLine) {
     request_.selection = ExportSelection{
         .user = " u ", .database = "a/b;c", .server = "s", .registry = "r", .locale = 66567, .models = {}};
     EXPECT_EQ(Save("/USR=other /DB=other /LOC=no number"), std::nullopt);
-    EXPECT_EQ(gARISInterface->sUser, " u ");
-    EXPECT_EQ(gARISInterface->sDatabase, "a/b;c");
-    EXPECT_EQ(gARISInterface->sServer, "s");
-    EXPECT_EQ(gARISInterface->sRegistry, "r");
-    EXPECT_EQ(gARISInterface->sSelection, "");
-    EXPECT_EQ(gLocale, 66567);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gARISInterface->sUser, " u ");
+    EXPECT_EQ(gBlock.gARISInterface->sDatabase, "a/b;c");
+    EXPECT_EQ(gBlock.gARISInterface->sServer, "s");
+    EXPECT_EQ(gBlock.gARISInterface->sRegistry, "r");
+    EXPECT_EQ(gBlock.gARISInterface->sSelection, "");
+    EXPECT_EQ(gBlock.gLocale, 66567);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(SaveCommandlineArgumentsTest, MakingTheInterfaceRestoresTheNameOfTheRunningProcedure) {
-    gARISInterface = gPool.Create<clsARIS_Interface>();
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
-    EXPECT_TRUE(gARISInterface->ColSelectedModels.IsEmpty());
+    gBlock.gARISInterface = gBlock.gPool.Create<clsARIS_Interface>();
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
+    EXPECT_TRUE(gBlock.gARISInterface->ColSelectedModels.IsEmpty());
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ constexpr std::array<std::int16_t, 14> criticalNumbers{2000, 2010, 2020, 2100, 2
 
 class PolicyTest : public RunFixture, public testing::WithParamInterface<std::int16_t> {
   protected:
-    static FailureAction Analyse() { return gExceptionHandler->AnalyseError(GetParam(), "described"); }
+    static FailureAction Analyse() { return gBlock.gExceptionHandler->AnalyseError(GetParam(), "described"); }
     static int Number() { return GetParam(); }
 };
 
@@ -31,7 +31,7 @@ using WarningTest = PolicyTest;
 TEST_P(WarningTest, ShowsTheDescriptionAndGoesOn) {
     EXPECT_EQ(Analyse(), FailureAction::proceed);
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(Number(), "test.Caller", "described")));
-    EXPECT_EQ(gRunReport.boxes.exclamation, 1);
+    EXPECT_EQ(gBlock.gRunReport.boxes.exclamation, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(, WarningTest, testing::ValuesIn(warnings));
@@ -41,7 +41,7 @@ using CriticalTest = PolicyTest;
 TEST_P(CriticalTest, ShowsTheDescriptionAndEndsTheRun) {
     EXPECT_EQ(Analyse(), FailureAction::endRun);
     EXPECT_THAT(Boxes(), ElementsAre(FailureBox(Number(), "test.Caller", "described")));
-    EXPECT_EQ(gRunReport.boxes.critical, 1);
+    EXPECT_EQ(gBlock.gRunReport.boxes.critical, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(, CriticalTest, testing::ValuesIn(criticalNumbers));
@@ -52,7 +52,7 @@ TEST_P(QuestionTest, AnsweredWithYesEndsTheRun) {
     AnswerNextQuestion(BoxAnswer::yes);
     EXPECT_EQ(Analyse(), FailureAction::endRun);
     EXPECT_THAT(Boxes(), ElementsAre(QuestionBox(Number(), "test.Caller")));
-    EXPECT_EQ(gRunReport.boxes.question, 1);
+    EXPECT_EQ(gBlock.gRunReport.boxes.question, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(, QuestionTest, testing::Values(999, 32755));
@@ -75,7 +75,7 @@ class ExceptionHandlerTest : public RunFixture {
     static std::optional<RunEnd> ExitMercyfully(std::string_view procedure, std::int16_t number,
                                                 const std::string& description) {
         try {
-            gExceptionHandler->MercyfulExit(procedure, number, description);
+            gBlock.gExceptionHandler->MercyfulExit(procedure, number, description);
         } catch (const RunEnd& end) {
             return end;
         }
@@ -85,12 +85,12 @@ class ExceptionHandlerTest : public RunFixture {
 
 TEST_F(ExceptionHandlerTest, NoToTheQuestionOfTheOptionsFormLeavesTheProcedure) {
     AnswerNextQuestion(BoxAnswer::no);
-    EXPECT_EQ(gExceptionHandler->AnalyseError(999, ""), FailureAction::leave);
+    EXPECT_EQ(gBlock.gExceptionHandler->AnalyseError(999, ""), FailureAction::leave);
 }
 
 TEST_F(ExceptionHandlerTest, NoToTheQuestionOfTheFileDialogRunsTheStatementAgain) {
     AnswerNextQuestion(BoxAnswer::no);
-    EXPECT_EQ(gExceptionHandler->AnalyseError(32755, ""), FailureAction::retry);
+    EXPECT_EQ(gBlock.gExceptionHandler->AnalyseError(32755, ""), FailureAction::retry);
 }
 
 TEST_F(ExceptionHandlerTest, EveryNumberThatShowsABoxIsOneOfTheTable) {
@@ -98,18 +98,18 @@ TEST_F(ExceptionHandlerTest, EveryNumberThatShowsABoxIsOneOfTheTable) {
 }
 
 TEST_F(ExceptionHandlerTest, TheBoxNamesTheRunningProcedure) {
-    gCurrentProcedure = "modX.Somewhere";
-    gExceptionHandler->AnalyseError(2210, "described");
+    gBlock.gCurrentProcedure = "modX.Somewhere";
+    gBlock.gExceptionHandler->AnalyseError(2210, "described");
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2210, "modX.Somewhere", "described")));
 }
 
 TEST_F(ExceptionHandlerTest, AnalysingLeavesTheNameOfTheRunningProcedureAlone) {
-    gExceptionHandler->AnalyseError(2210, "described");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    gBlock.gExceptionHandler->AnalyseError(2210, "described");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(ExceptionHandlerTest, TheMessageNumberReplacesItsMarkInTheWholeBoxText) {
-    gExceptionHandler->AnalyseError(2120, "<MessageID>twice<MessageID>, not <messageid>");
+    gBlock.gExceptionHandler->AnalyseError(2120, "<MessageID>twice<MessageID>, not <messageid>");
     EXPECT_THAT(Boxes(),
                 ElementsAre(FailureBox(2120, "test.Caller", "WXB02120C twiceWXB02120C , not <messageid>")));
 }
@@ -117,7 +117,7 @@ TEST_F(ExceptionHandlerTest, TheMessageNumberReplacesItsMarkInTheWholeBoxText) {
 TEST_F(ExceptionHandlerTest, ABoxForAnUnknownFailureShowsNumberAndDescriptionAndEndsTheRun) {
     EXPECT_THAT(ExitMercyfully("modX.Inner", 91, "object not set"), EndedRun(RunEnding::unknownFailure, 91));
     EXPECT_THAT(Boxes(), ElementsAre(UnknownFailureBox(91, "modX.Inner", "object not set")));
-    EXPECT_EQ(gRunReport.boxes.critical, 1);
+    EXPECT_EQ(gBlock.gRunReport.boxes.critical, 1);
 }
 
 TEST_F(ExceptionHandlerTest, TheMessageNumberReplacesItsMarkInTheBoxForAnUnknownFailureToo) {
@@ -131,9 +131,9 @@ TEST_F(ExceptionHandlerTest, CancelInTheBoxForAnUnknownFailureEndsTheRunAsOkDoes
 }
 
 TEST_F(ExceptionHandlerTest, ANewHandlerForgetsTheStepThatIsAllowedToFail) {
-    gFailureContext = "Retrieve rule";
-    gExceptionHandler = gPool.Create<clsExceptionHandler>();
-    EXPECT_EQ(gFailureContext, "");
+    gBlock.gFailureContext = "Retrieve rule";
+    gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+    EXPECT_EQ(gBlock.gFailureContext, "");
 }
 
 TEST_F(ExceptionHandlerTest, ABoxBearsTheProductsNameAndAnswersTheButtonPressed) {
@@ -145,10 +145,10 @@ TEST_F(ExceptionHandlerTest, ABoxBearsTheProductsNameAndAnswersTheButtonPressed)
 TEST_F(ExceptionHandlerTest, BoxesAreCountedBySeverity) {
     for (const std::int32_t buttons : {16, 48 + 65536, 48, 64 + 1, 0})
         clsExceptionHandler::ShowMessageBox("text", buttons);
-    EXPECT_EQ(gRunReport.boxes.critical, 1);
-    EXPECT_EQ(gRunReport.boxes.question, 0);
-    EXPECT_EQ(gRunReport.boxes.exclamation, 2);
-    EXPECT_EQ(gRunReport.boxes.information, 1);
+    EXPECT_EQ(gBlock.gRunReport.boxes.critical, 1);
+    EXPECT_EQ(gBlock.gRunReport.boxes.question, 0);
+    EXPECT_EQ(gBlock.gRunReport.boxes.exclamation, 2);
+    EXPECT_EQ(gBlock.gRunReport.boxes.information, 1);
 }
 
 TEST(FormatMessageID, WritesTheNumberInAtLeastFiveDigitsAndTheSeveritysLetter) {

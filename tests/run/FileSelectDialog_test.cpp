@@ -24,7 +24,7 @@ class FileSelectDialogTest : public RunFixture {
     std::optional<RunEnd> Select(std::string_view answers) {
         Answer(answers);
         return RunIn("test.P", [&](Frame&) {
-            selected_ = gIOHandler->FileSelectDialog();
+            selected_ = gBlock.gIOHandler->FileSelectDialog();
         });
     }
     void Store(std::string_view name, const ProfileValue& value) {
@@ -76,27 +76,27 @@ TEST_F(FileSelectDialogTest, EmptiesOutputAndLogAndKeepsTheirNames) {
     fileSystem_.Put("folder/out.log", "old log");
     EXPECT_EQ(Select("file folder/out.wpx"), std::nullopt);
     EXPECT_EQ(selected_, "folder/out.wpx");
-    EXPECT_EQ(gIOHandler->sOutputFileName, "folder/out.wpx");
-    EXPECT_EQ(gIOHandler->sLogFileName, "folder/out.log");
+    EXPECT_EQ(gBlock.gIOHandler->sOutputFileName, "folder/out.wpx");
+    EXPECT_EQ(gBlock.gIOHandler->sLogFileName, "folder/out.log");
     EXPECT_EQ(Bytes("folder/out.wpx"), "");
     EXPECT_EQ(Bytes("folder/out.log"), "");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FileSelectDialogTest, TheLogsNameReplacesTheLastFourCharacters) {
     Select("file out.defin");
-    EXPECT_EQ(gIOHandler->sLogFileName, "out.d.log");
+    EXPECT_EQ(gBlock.gIOHandler->sLogFileName, "out.d.log");
     Select("file Größe.äöü");
-    EXPECT_EQ(gIOHandler->sLogFileName, "Größe.log");
+    EXPECT_EQ(gBlock.gIOHandler->sLogFileName, "Größe.log");
     Select("file .wpx");
-    EXPECT_EQ(gIOHandler->sLogFileName, ".log");
+    EXPECT_EQ(gBlock.gIOHandler->sLogFileName, ".log");
 }
 
 TEST_F(FileSelectDialogTest, ANameWithoutAPointGetsTheExtensionOfTheDialog) {
     fileSystem_.MakeFolder("folder.d");
     EXPECT_EQ(Select("file folder.d/out"), std::nullopt);
-    EXPECT_EQ(gIOHandler->sOutputFileName, "folder.d/out.wpx");
-    EXPECT_EQ(gIOHandler->sLogFileName, "folder.d/out.log");
+    EXPECT_EQ(gBlock.gIOHandler->sOutputFileName, "folder.d/out.wpx");
+    EXPECT_EQ(gBlock.gIOHandler->sLogFileName, "folder.d/out.log");
 }
 
 TEST_F(FileSelectDialogTest, CancelAndNoShowsTheDialogAgainWithAllItsSettings) {
@@ -114,8 +114,8 @@ TEST_F(FileSelectDialogTest, CancelAndYesEndsTheRunAndTouchesNoFile) {
     fileSystem_.Put("out.wpx", "old output");
     EXPECT_THAT(Select("file cancel:no\nfile cancel:yes"), EndedRun(RunEnding::endedByFailure, 32755));
     EXPECT_EQ(Bytes("out.wpx"), "old output");
-    EXPECT_EQ(gIOHandler->sOutputFileName, "");
-    EXPECT_EQ(gCurrentProcedure, procedure);
+    EXPECT_EQ(gBlock.gIOHandler->sOutputFileName, "");
+    EXPECT_EQ(gBlock.gCurrentProcedure, procedure);
 }
 
 TEST_F(FileSelectDialogTest, ANameThatIsTooShortForALogIsEmptiedAndEndsTheRun) {

@@ -21,12 +21,12 @@ using Step = MemoryFileSystem::Step;
 
 class FilesTest : public RunFixture {
   protected:
-    FilesTest() { gIOHandler->sOutputFileName = "out.wpx"; }
+    FilesTest() { gBlock.gIOHandler->sOutputFileName = "out.wpx"; }
 
     /// What reading `bytes` as a file gives.
     std::string Read(const std::string& bytes) {
         fileSystem_.Put("in.txt", bytes);
-        return gIOHandler->ReadFile("in.txt");
+        return gBlock.gIOHandler->ReadFile("in.txt");
     }
     /// Runs a body that ends the run with one box for a failure of the run-time.
     void ExpectUnknownFailure(const std::function<void(Frame&)>& body, int number, std::string_view procedure,
@@ -37,42 +37,42 @@ class FilesTest : public RunFixture {
 };
 
 TEST_F(FilesTest, AllocatingAFileCreatesIt) {
-    gIOHandler->AllocateFile("new.txt");
+    gBlock.gIOHandler->AllocateFile("new.txt");
     EXPECT_EQ(Bytes("new.txt"), "");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FilesTest, AllocatingAFileThatIsThereEmptiesIt) {
     fileSystem_.Put("old.txt", "content");
-    gIOHandler->AllocateFile("old.txt");
+    gBlock.gIOHandler->AllocateFile("old.txt");
     EXPECT_EQ(Bytes("old.txt"), "");
 }
 
 TEST_F(FilesTest, AnEmptyNameMeansTheOutputFile) {
     fileSystem_.Put("out.wpx", "content");
-    gIOHandler->AllocateFile("");
+    gBlock.gIOHandler->AllocateFile("");
     EXPECT_EQ(Bytes("out.wpx"), "");
-    gIOHandler->WriteFile("line", "");
+    gBlock.gIOHandler->WriteFile("line", "");
     EXPECT_EQ(Bytes("out.wpx"), "line\r\n");
-    EXPECT_EQ(gIOHandler->ReadFile(""), "line\r\n");
+    EXPECT_EQ(gBlock.gIOHandler->ReadFile(""), "line\r\n");
 }
 
 TEST_F(FilesTest, WritingAppendsATextAndALineEnd) {
     fileSystem_.Put("a.txt", "first");
-    gIOHandler->WriteFile("second", "a.txt");
-    gIOHandler->WriteFile("", "a.txt");
-    gIOHandler->WriteFile("third\nand\r\nmore\r\n", "a.txt");
+    gBlock.gIOHandler->WriteFile("second", "a.txt");
+    gBlock.gIOHandler->WriteFile("", "a.txt");
+    gBlock.gIOHandler->WriteFile("third\nand\r\nmore\r\n", "a.txt");
     EXPECT_EQ(Bytes("a.txt"), "firstsecond\r\n\r\nthird\nand\r\nmore\r\n\r\n");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FilesTest, WritingCreatesAFileThatIsMissing) {
-    gIOHandler->WriteFile("line", "new.txt");
+    gBlock.gIOHandler->WriteFile("line", "new.txt");
     EXPECT_EQ(Bytes("new.txt"), "line\r\n");
 }
 
 TEST_F(FilesTest, WritesInTheCodePageWithAQuestionMarkForACharacterThatItLacks) {
-    gIOHandler->WriteFile("Größe € Ω", "a.txt");
+    gBlock.gIOHandler->WriteFile("Größe € Ω", "a.txt");
     EXPECT_EQ(Bytes("a.txt"),
               "Gr\xF6\xDF"
               "e \x80 ?\r\n");
@@ -90,7 +90,7 @@ TEST_F(FilesTest, ReadsEachLineWithALineEndOfItsOwn) {
 
 TEST_F(FilesTest, AnEmptyFileReadsAsAnEmptyText) {
     EXPECT_EQ(Read(""), "");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FilesTest, ReadsInTheCodePageWithAReplacementForAByteThatItDoesNotKnow) {
@@ -110,23 +110,23 @@ TEST_F(FilesTest, FilesAreOpenedUnderTheNextFreeNumber) {
     std::int16_t first = 0;
     std::int16_t second = 0;
     std::int16_t third = 0;
-    gIOHandler->OpenFile("a.txt", FileMode::write, first);
-    gIOHandler->OpenFile("b.txt", FileMode::append, second);
+    gBlock.gIOHandler->OpenFile("a.txt", FileMode::write, first);
+    gBlock.gIOHandler->OpenFile("b.txt", FileMode::append, second);
     EXPECT_EQ(first, 1);
     EXPECT_EQ(second, 2);
-    gIOHandler->CloseFile(first);
-    gIOHandler->OpenFile("a.txt", FileMode::read, third);
+    gBlock.gIOHandler->CloseFile(first);
+    gBlock.gIOHandler->OpenFile("a.txt", FileMode::read, third);
     EXPECT_EQ(third, 1);
 }
 
 TEST_F(FilesTest, ModesOpenForReadingForWritingAnewAndForAppending) {
     fileSystem_.Put("a.txt", "content");
     std::int16_t number = 0;
-    gIOHandler->OpenFile("a.txt", 1, number);
+    gBlock.gIOHandler->OpenFile("a.txt", 1, number);
     EXPECT_EQ(Bytes("a.txt"), "content");
-    gIOHandler->OpenFile("a.txt", 3, number);
+    gBlock.gIOHandler->OpenFile("a.txt", 3, number);
     EXPECT_EQ(Bytes("a.txt"), "content");
-    gIOHandler->OpenFile("a.txt", 2, number);
+    gBlock.gIOHandler->OpenFile("a.txt", 2, number);
     EXPECT_EQ(Bytes("a.txt"), "");
 }
 
@@ -134,7 +134,7 @@ TEST_F(FilesTest, AModeThatIsNoneEndsTheRunAndOpensNothing) {
     for (const std::int16_t mode : std::initializer_list<std::int16_t>{0, 4, -1}) {
         std::int16_t number = 0;
         const auto end = RunIn("test.P", [&](Frame&) {
-            gIOHandler->OpenFile("a.txt", mode, number);
+            gBlock.gIOHandler->OpenFile("a.txt", mode, number);
         });
         EXPECT_THAT(end, EndedRun(RunEnding::endedByFailure, 2000));
         EXPECT_EQ(number, 0);
@@ -146,15 +146,15 @@ TEST_F(FilesTest, AModeThatIsNoneEndsTheRunAndOpensNothing) {
 }
 
 TEST_F(FilesTest, ClosingNumber0IsIgnored) {
-    gIOHandler->CloseFile(0);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    gBlock.gIOHandler->CloseFile(0);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(FilesTest, AFileThatCannotBeOpenedEndsTheRunWithItsName) {
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->WriteFile("line", "no/where.txt");
+            gBlock.gIOHandler->WriteFile("line", "no/where.txt");
         },
         76, "clsIOHandler.OpenFile", "path not found: no/where.txt");
 }
@@ -162,7 +162,7 @@ TEST_F(FilesTest, AFileThatCannotBeOpenedEndsTheRunWithItsName) {
 TEST_F(FilesTest, AFileThatIsNotThereToReadEndsTheRunWithItsName) {
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->ReadFile("none.txt");
+            gBlock.gIOHandler->ReadFile("none.txt");
         },
         53, "clsIOHandler.OpenFile", "file not found: none.txt");
 }
@@ -171,17 +171,17 @@ TEST_F(FilesTest, AFileThatMustNotBeWrittenEndsTheRunWithItsName) {
     fileSystem_.MakeFail("out.wpx", Step::open, FailureKind::fileAccess);
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->AllocateFile("");
+            gBlock.gIOHandler->AllocateFile("");
         },
         75, "clsIOHandler.OpenFile", "file access error: out.wpx");
 }
 
 TEST_F(FilesTest, AFullDiskEndsTheRunWithTheFilesNameAndWhatWasWrittenStands) {
-    gIOHandler->WriteFile("block", "");
+    gBlock.gIOHandler->WriteFile("block", "");
     fileSystem_.MakeFail("out.wpx", Step::write, FailureKind::diskFull);
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->WriteFile("next", "");
+            gBlock.gIOHandler->WriteFile("next", "");
         },
         61, "clsIOHandler.WriteFile", "disk full: out.wpx");
     EXPECT_EQ(Bytes("out.wpx"), "block\r\n");
@@ -191,7 +191,7 @@ TEST_F(FilesTest, AFullDiskThatShowsAtClosingEndsTheRunWithTheFilesName) {
     fileSystem_.MakeFail("out.wpx", Step::close, FailureKind::diskFull);
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->WriteFile("block", "");
+            gBlock.gIOHandler->WriteFile("block", "");
         },
         61, "clsIOHandler.CloseFile", "disk full: out.wpx");
 }
@@ -201,23 +201,23 @@ TEST_F(FilesTest, AFileThatCannotBeReadEndsTheRunWithItsName) {
     fileSystem_.MakeFail("in.txt", Step::read, FailureKind::fileAccess);
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->ReadFile("in.txt");
+            gBlock.gIOHandler->ReadFile("in.txt");
         },
         75, "clsIOHandler.ReadFile", "file access error: in.txt");
 }
 
 TEST_F(FilesTest, AFileThatIsThereExists) {
     fileSystem_.Put("folder/in.txt", "");
-    EXPECT_TRUE(gIOHandler->FileExists("folder/in.txt"));
-    EXPECT_EQ(gFailureContext, "Open file");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_TRUE(gBlock.gIOHandler->FileExists("folder/in.txt"));
+    EXPECT_EQ(gBlock.gFailureContext, "Open file");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FilesTest, AFileThatIsNotThereDoesNotExist) {
     fileSystem_.MakeFolder("folder");
-    EXPECT_FALSE(gIOHandler->FileExists("folder/in.txt"));
-    EXPECT_EQ(gFailureContext, "failed");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_FALSE(gBlock.gIOHandler->FileExists("folder/in.txt"));
+    EXPECT_EQ(gBlock.gFailureContext, "failed");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_EQ(Bytes("folder/in.txt"), "(no such file)");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
@@ -225,7 +225,7 @@ TEST_F(FilesTest, AFileThatIsNotThereDoesNotExist) {
 TEST_F(FilesTest, LookingForAFileInAFolderThatIsNotThereEndsTheRun) {
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->FileExists("no/in.txt");
+            gBlock.gIOHandler->FileExists("no/in.txt");
         },
         76, "clsIOHandler.FileExists", "path not found: no/in.txt");
 }
@@ -234,47 +234,47 @@ TEST_F(FilesTest, LookingForAFileThatMustNotBeReadEndsTheRun) {
     fileSystem_.MakeFolder("folder");
     ExpectUnknownFailure(
         [](Frame&) {
-            gIOHandler->FileExists("folder");
+            gBlock.gIOHandler->FileExists("folder");
         },
         75, "clsIOHandler.FileExists", "file access error: folder");
 }
 
 TEST_F(FilesTest, ALineOfTheLogIsAppendedToTheLogAlone) {
-    gIOHandler->sLogFileName = "out.log";
-    gIOHandler->WriteLog("first");
-    gIOHandler->WriteLog("second");
+    gBlock.gIOHandler->sLogFileName = "out.log";
+    gBlock.gIOHandler->WriteLog("first");
+    gBlock.gIOHandler->WriteLog("second");
     EXPECT_EQ(Bytes("out.log"), "first\r\nsecond\r\n");
     EXPECT_EQ(Bytes("out.wpx"), "(no such file)");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FilesTest, ANoteIsWrittenToTheLogAtOnceAndCounted) {
-    gIOHandler->sLogFileName = "out.log";
+    gBlock.gIOHandler->sLogFileName = "out.log";
     WriteNote(Severity::information, 3050, "Order", "EPC");
     EXPECT_EQ(Bytes("out.log"), "WXB03050I 3050|Order|EPC|%3$s|%4$s\r\n");
     WriteNote(Severity::exclamation, 3120, "Order");
     EXPECT_EQ(Bytes("out.log"),
               "WXB03050I 3050|Order|EPC|%3$s|%4$s\r\nWXB03120E 3120|Order|%2$s|%3$s|%4$s\r\n");
-    EXPECT_EQ(gRunReport.notes.information, 1);
-    EXPECT_EQ(gRunReport.notes.exclamation, 1);
-    EXPECT_EQ(gRunReport.notes.critical, 0);
+    EXPECT_EQ(gBlock.gRunReport.notes.information, 1);
+    EXPECT_EQ(gBlock.gRunReport.notes.exclamation, 1);
+    EXPECT_EQ(gBlock.gRunReport.notes.critical, 0);
 }
 
 TEST_F(FilesTest, ANoteWhoseTextIsMissingTakesTwoLinesOfTheLog) {
-    gIOHandler->sLogFileName = "out.log";
+    gBlock.gIOHandler->sLogFileName = "out.log";
     WriteNote(Severity::information, 3999, "Order");
     EXPECT_EQ(Bytes("out.log"), "WXB03999I Error :\r\nThe Resource ID '3999' was not found\r\n");
 }
 
 TEST_F(FilesTest, ALogThatCannotBeWrittenEndsTheRunAndTheNoteIsNotCounted) {
-    gIOHandler->sLogFileName = "out.log";
+    gBlock.gIOHandler->sLogFileName = "out.log";
     fileSystem_.MakeFail("out.log", Step::write, FailureKind::diskFull);
     ExpectUnknownFailure(
         [](Frame&) {
             WriteNote(Severity::information, 3050, "Order");
         },
         61, "clsIOHandler.WriteFile", "disk full: out.log");
-    EXPECT_EQ(gRunReport.notes.information, 0);
+    EXPECT_EQ(gBlock.gRunReport.notes.information, 0);
 }
 
 }  // namespace

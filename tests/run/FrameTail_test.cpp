@@ -33,7 +33,7 @@ TEST_P(NumberOutside16BitsTest, IsOverflowInTheCallersFrameUnderTheInnerProcedur
     });
     EXPECT_THAT(end, EndedRun(RunEnding::unknownFailure, 6));
     EXPECT_FALSE(behind);
-    EXPECT_EQ(gCurrentProcedure, "test.Inner");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Inner");
     EXPECT_THAT(Boxes(), ElementsAre(UnknownFailureBox(6, "test.Inner", "overflow")));
 }
 
@@ -153,7 +153,7 @@ TEST_F(FrameTailTest, AFrameIsOutOfItsTailAgainWhenAWarningIsAnswered) {
 }
 
 TEST_F(FrameTailTest, WithoutAnExceptionHandlerAFailureIsAnErrorThatNamesItself) {
-    gExceptionHandler = nullptr;
+    gBlock.gExceptionHandler = nullptr;
     const auto run = [] {
         Procedure("test.P", [](Frame&) {
             throw Failure(FailureKind::fileAccess, "wxbrgENU.dll");

@@ -24,20 +24,20 @@ class FrameTest : public RunFixture {};
 TEST_F(FrameTest, NamesItsProcedureWhileTheBodyRunsAndRestoresTheCallersNameAtTheNormalEnd) {
     std::string inside;
     Procedure("test.P", [&](Frame&) {
-        inside = gCurrentProcedure;
+        inside = gBlock.gCurrentProcedure;
     });
     EXPECT_EQ(inside, "test.P");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, AnEarlyReturnRestoresTheCallersName) {
     bool behind = false;
     Procedure("test.P", [&](Frame&) {
-        if (gCurrentProcedure == "test.P") return;
+        if (gBlock.gCurrentProcedure == "test.P") return;
         behind = true;
     });
     EXPECT_FALSE(behind);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, ReturnsTheResultOfTheBody) {
@@ -46,15 +46,15 @@ TEST_F(FrameTest, ReturnsTheResultOfTheBody) {
                             return std::string("result");
                         }),
               "result");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, NestedProceduresRestoreOneNameEach) {
     Procedure("test.Outer", [](Frame&) {
         Procedure("test.Inner", [](Frame&) {});
-        EXPECT_EQ(gCurrentProcedure, "test.Outer");
+        EXPECT_EQ(gBlock.gCurrentProcedure, "test.Outer");
     });
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, KeepNameLeavesTheProceduresNameAtTheNormalEnd) {
@@ -63,7 +63,7 @@ TEST_F(FrameTest, KeepNameLeavesTheProceduresNameAtTheNormalEnd) {
         return 3;
     });
     EXPECT_EQ(result, 3);
-    EXPECT_EQ(gCurrentProcedure, "test.P");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.P");
 }
 
 TEST_F(FrameTest, AFailingWayOutKeepsTheInnermostName) {
@@ -73,7 +73,7 @@ TEST_F(FrameTest, AFailingWayOutKeepsTheInnermostName) {
         });
     });
     EXPECT_THAT(end, EndedRun(RunEnding::endedByFailure, 2100));
-    EXPECT_EQ(gCurrentProcedure, "test.Inner");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Inner");
     EXPECT_THAT(Boxes(), ElementsAre(FailureBox(2100, "test.Inner", TestText(2100, {"rule"}))));
 }
 
@@ -84,7 +84,7 @@ TEST_F(FrameTest, AFailureOfTheRunTimeIsShownOnceByTheInnermostProcedureAndEndsT
         });
     });
     EXPECT_THAT(end, EndedRun(RunEnding::unknownFailure, 76));
-    EXPECT_EQ(gCurrentProcedure, "test.Inner");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Inner");
     EXPECT_THAT(Boxes(), ElementsAre(UnknownFailureBox(76, "test.Inner", "path not found: no/where")));
 }
 
@@ -97,7 +97,7 @@ TEST_F(FrameTest, RaisingAWarningShowsItAndGoesOnBehindIt) {
     });
     EXPECT_EQ(end, std::nullopt);
     EXPECT_EQ(steps, "before behind");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2060, "test.P", TestText(2060, {"model"}))));
 }
 
@@ -132,7 +132,7 @@ TEST_F(FrameTest, LeavingReturnsFromTheProcedureNormallyWithAZeroValue) {
     });
     EXPECT_EQ(result, 0);
     EXPECT_FALSE(behind);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_THAT(Boxes(), ElementsAre(QuestionBox(999, "test.P")));
 }
 
@@ -142,7 +142,7 @@ TEST_F(FrameTest, YesToTheQuestionEndsTheRun) {
         frame.RaiseBare(CancelNumber::optionsForm);
     });
     EXPECT_THAT(end, EndedRun(RunEnding::endedByFailure, 999));
-    EXPECT_EQ(gCurrentProcedure, "test.P");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.P");
 }
 
 TEST_F(FrameTest, AFailureThatIsThrownAndAnsweredWithNoLeavesTheProcedureToo) {
@@ -151,7 +151,7 @@ TEST_F(FrameTest, AFailureThatIsThrownAndAnsweredWithNoLeavesTheProcedureToo) {
         throw Failure(CancelNumber::optionsForm);
     });
     EXPECT_EQ(end, std::nullopt);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, LeavingTheFrameOfAnOuterProcedureLeavesTheInnerOneAsWell) {
@@ -166,7 +166,7 @@ TEST_F(FrameTest, LeavingTheFrameOfAnOuterProcedureLeavesTheInnerOneAsWell) {
         steps += "behind the inner one";
     });
     EXPECT_EQ(steps, "inner ");
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, AStepWithoutAFailureRunsOnce) {
@@ -203,7 +203,7 @@ TEST_F(FrameTest, AStepRunsAgainForAsLongAsTheAnswerIsRetry) {
     std::string chosen;
     const auto end = RunIn("test.P", [&](Frame& frame) {
         frame.Step([&] {
-            const auto name = gPlatform->fileDialog.AskSaveName({});
+            const auto name = gBlock.gPlatform->fileDialog.AskSaveName({});
             if (!name) throw Failure(CancelNumber::fileDialog);
             chosen = *name;
         });
@@ -244,14 +244,14 @@ TEST_F(FrameTest, AStepThatIsLeftLeavesTheProcedure) {
     });
     EXPECT_EQ(end, std::nullopt);
     EXPECT_FALSE(behind);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, ANamedScopeRestoresTheCallersNameAtItsNormalEnd) {
     const NamedScope scope("test.Scope");
-    EXPECT_EQ(gCurrentProcedure, "test.Scope");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Scope");
     scope.End();
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(FrameTest, AFailureInANamedScopeReachesTheCallersFrameUnderTheScopesName) {
@@ -269,9 +269,9 @@ TEST_F(FrameTest, AStepPassedOverInANamedScopeGoesOnUnderTheScopesNameUntilThePr
             const NamedScope scope("test.Scope");
             Fail(2040, "name");
         });
-        EXPECT_EQ(gCurrentProcedure, "test.Scope");
+        EXPECT_EQ(gBlock.gCurrentProcedure, "test.Scope");
     });
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2040, "test.Scope", TestText(2040, {"name"}))));
 }
 
@@ -328,7 +328,7 @@ TEST_F(FrameTest, FailIsAFailureDescribedByItsText) {
 
 TEST_F(FrameTest, AStackThatIsNearlyUsedUpIsFailure28) {
     const char here = 0;
-    gBlock.stackEnd = &here;
+    gBlock.gStackEnd = &here;
     const auto end = RunIn("test.P", [](Frame&) {
         FAIL() << "the body must not run";
     });

@@ -148,16 +148,16 @@ TEST_F(RunEndingsTest, AStackThatIsTooSmallForAnyProcedureIsAnErrorAndNoCrash) {
 
 TEST_F(RunEndingsTest, ARunLeavesAFreshGlobalBlockHoweverItEnds) {
     Run();
-    EXPECT_EQ(gPlatform, nullptr);
-    EXPECT_EQ(gAutomation, nullptr);
-    EXPECT_EQ(gRunRequest, nullptr);
-    EXPECT_EQ(gResourceLibrary, nullptr);
-    EXPECT_FALSE(gExceptionHandler);
-    EXPECT_FALSE(gARISInterface);
-    EXPECT_EQ(gBlock.stackEnd, nullptr);
-    EXPECT_EQ(gLocale, 0);
-    EXPECT_EQ(gCurrentProcedure, "");
-    EXPECT_EQ(gRunReport.boxes.critical, 0);
+    EXPECT_EQ(gBlock.gPlatform, nullptr);
+    EXPECT_EQ(gBlock.gAutomation, nullptr);
+    EXPECT_EQ(gBlock.gRunRequest, nullptr);
+    EXPECT_EQ(gBlock.gResourceLibrary, nullptr);
+    EXPECT_FALSE(gBlock.gExceptionHandler);
+    EXPECT_FALSE(gBlock.gARISInterface);
+    EXPECT_EQ(gBlock.gStackEnd, nullptr);
+    EXPECT_EQ(gBlock.gLocale, 0);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "");
+    EXPECT_EQ(gBlock.gRunReport.boxes.critical, 0);
 }
 
 TEST_F(RunEndingsTest, ARunBeginsWithoutWhatAnotherOneLeft) {

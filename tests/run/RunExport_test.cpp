@@ -101,7 +101,7 @@ TEST_F(RunExportTest, WritesAtOnceWhereTheSelectedModelsLeadNowhere) {
 TEST_F(RunExportTest, FindsTheModelsBeforeTheOptionsAreShown) {
     std::int32_t selected = 0;
     optionsFormView_.use = [&](OptionsFormEvents& form) {
-        selected = gARISInterface->ColSelectedModels.Count();
+        selected = gBlock.gARISInterface->ColSelectedModels.Count();
         EXPECT_THAT(fileDialog_.shown, IsEmpty());
         form.Ok();
     };
@@ -115,10 +115,10 @@ TEST_F(RunExportTest, BeginsGeneratedNamesWithTheStoredSuffixBeforeTheFileIsAske
     bool asked = false;
     fileDialog_.whenShown = [&] {
         asked = true;
-        EXPECT_EQ(gDataStructureNamePrefix, "DATA_STRUCTURE_");
-        EXPECT_EQ(gNextDataStructureSuffix, 42);
-        EXPECT_TRUE(gColMappingRule.IsEmpty());
-        EXPECT_TRUE(gColPROCESS.IsEmpty());
+        EXPECT_EQ(gBlock.gDataStructureNamePrefix, "DATA_STRUCTURE_");
+        EXPECT_EQ(gBlock.gNextDataStructureSuffix, 42);
+        EXPECT_TRUE(gBlock.gColMappingRule.IsEmpty());
+        EXPECT_TRUE(gBlock.gColPROCESS.IsEmpty());
     };
     Run("options ok\nfile out.wpx");
     EXPECT_TRUE(asked);
@@ -241,18 +241,18 @@ TEST_F(RunExportTest, AnswersThatDoNotFitAreAnErrorOfTheRun) {
 
 TEST_F(RunExportTest, LeavesAFreshGlobalBlock) {
     Run("options click:cbWriteOtherSettings\noptions ok\nfile out.wpx");
-    EXPECT_EQ(gPlatform, nullptr);
-    EXPECT_EQ(gResourceLibrary, nullptr);
-    EXPECT_EQ(gHelpFile, "");
-    EXPECT_FALSE(gExceptionHandler);
-    EXPECT_FALSE(gIOHandler);
-    EXPECT_FALSE(gOptionsForm);
-    EXPECT_FALSE(gOptUseOtherSettings);
-    EXPECT_TRUE(gColMappingRule.IsEmpty());
-    EXPECT_TRUE(gColPROCESS.IsEmpty());
-    EXPECT_EQ(gDataStructureNamePrefix, "");
-    EXPECT_EQ(gCurrentProcedure, "");
-    EXPECT_EQ(gRunReport.objectsWritten, 0);
+    EXPECT_EQ(gBlock.gPlatform, nullptr);
+    EXPECT_EQ(gBlock.gResourceLibrary, nullptr);
+    EXPECT_EQ(gBlock.gHelpFile, "");
+    EXPECT_FALSE(gBlock.gExceptionHandler);
+    EXPECT_FALSE(gBlock.gIOHandler);
+    EXPECT_FALSE(gBlock.gOptionsForm);
+    EXPECT_FALSE(gBlock.gOptUseOtherSettings);
+    EXPECT_TRUE(gBlock.gColMappingRule.IsEmpty());
+    EXPECT_TRUE(gBlock.gColPROCESS.IsEmpty());
+    EXPECT_EQ(gBlock.gDataStructureNamePrefix, "");
+    EXPECT_EQ(gBlock.gCurrentProcedure, "");
+    EXPECT_EQ(gBlock.gRunReport.objectsWritten, 0);
 }
 
 class ReadProcessTypesTest : public RunFixture {};
@@ -262,7 +262,7 @@ TEST_F(ReadProcessTypesTest, TellsTheDefaultTypesInTheOrderOfTheRule) {
     EXPECT_EQ(result.report.ending, RunEnding::normal);
     EXPECT_THAT(result.types, ElementsAre(13, 50, 134, 154, 140, 14, 103, 100, 138, 18, 51, 124, 12));
     EXPECT_THAT(Boxes(), IsEmpty());
-    EXPECT_EQ(gPlatform, nullptr);
+    EXPECT_EQ(gBlock.gPlatform, nullptr);
 }
 
 TEST_F(ReadProcessTypesTest, TellsTheTypesOfTheProfile) {

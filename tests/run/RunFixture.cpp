@@ -146,14 +146,14 @@ RunFixture::RunFixture() {
     RenewGlobals();
     fileSystem_.MakeFolder(platform_.programDirectory);
     languageLibraries_.Put("wxbrgENU.dll", LibraryTexts());
-    gPlatform = &platform_;
-    gRunRequest = &request_;
-    gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
+    gBlock.gPlatform = &platform_;
+    gBlock.gRunRequest = &request_;
+    gBlock.gResourceLibrary = languageLibraries_.Load("wxbrgENU.dll");
     languageLibraries_.asked.clear();
-    gExceptionHandler = gPool.Create<clsExceptionHandler>();
-    gARISInterface = gPool.Create<clsARIS_Interface>();
-    gIOHandler = gPool.Create<clsIOHandler>();
-    gCurrentProcedure = "test.Caller";
+    gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+    gBlock.gARISInterface = gBlock.gPool.Create<clsARIS_Interface>();
+    gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
+    gBlock.gCurrentProcedure = "test.Caller";
 }
 
 RunFixture::~RunFixture() {

@@ -26,8 +26,8 @@ constexpr std::string_view procedure = "clsARIS_Interface.RetrieveSelectedARISMo
 class SelectedModelsTest : public RunFixture {
   protected:
     SelectedModelsTest() {
-        gAutomation = &automation_;
-        gLocale = 1033;
+        gBlock.gAutomation = &automation_;
+        gBlock.gLocale = 1033;
         ON_CALL(automation_, CreateObject).WillByDefault(Return(ARISApplication(&application_)));
         ON_CALL(application_, GetComponent).WillByDefault(Return(ARISReportComponent(&component_)));
         ON_CALL(component_, OpenDatabase).WillByDefault(Return(ARISDatabase(&database_)));
@@ -43,16 +43,17 @@ class SelectedModelsTest : public RunFixture {
 
     static std::optional<RunEnd> Retrieve() {
         return RunIn("test.P", [](Frame&) {
-            gARISInterface->RetrieveSelectedARISModels();
+            gBlock.gARISInterface->RetrieveSelectedARISModels();
         });
     }
     static std::optional<RunEnd> Retrieve(const std::string& selection) {
-        gARISInterface->sSelection = selection;
+        gBlock.gARISInterface->sSelection = selection;
         return Retrieve();
     }
     static std::vector<std::string> SelectedGuids() {
         std::vector<std::string> guids;
-        for (const ARISModel& model : gARISInterface->ColSelectedModels) guids.emplace_back(model->Guid());
+        for (const ARISModel& model : gBlock.gARISInterface->ColSelectedModels)
+            guids.emplace_back(model->Guid());
         return guids;
     }
     /// Retrieves a selection that ends the run with 2020 about `item`.
@@ -70,30 +71,30 @@ class SelectedModelsTest : public RunFixture {
 
 TEST_F(SelectedModelsTest, StartsArisAndOpensTheDatabaseOfTheCommandLine) {
     Have("Order", {"g1"});
-    gARISInterface->sServer = "host";
-    gARISInterface->sDatabase = "Orders";
-    gARISInterface->sRegistry = "reg";
-    gARISInterface->sUser = "anna";
+    gBlock.gARISInterface->sServer = "host";
+    gBlock.gARISInterface->sDatabase = "Orders";
+    gBlock.gARISInterface->sRegistry = "reg";
+    gBlock.gARISInterface->sUser = "anna";
     EXPECT_CALL(automation_, CreateObject(std::string_view("ARIS.Application.5.0")));
     EXPECT_CALL(application_, GetComponent(std::string_view("Report")));
     EXPECT_CALL(component_,
                 OpenDatabase(std::string_view("host"), std::string_view("Orders"), std::string_view("reg"),
                              std::string_view("anna"), std::string_view("")));
     EXPECT_EQ(Retrieve("g1,Order,13"), std::nullopt);
-    EXPECT_EQ(gARISInterface->oApplication.Get(), &application_);
-    EXPECT_EQ(gARISInterface->oReportComponent.Get(), &component_);
-    EXPECT_EQ(gARISInterface->Database.Get(), &database_);
-    EXPECT_EQ(gCurrentProcedure, "test.Caller");
+    EXPECT_EQ(gBlock.gARISInterface->oApplication.Get(), &application_);
+    EXPECT_EQ(gBlock.gARISInterface->oReportComponent.Get(), &component_);
+    EXPECT_EQ(gBlock.gARISInterface->Database.Get(), &database_);
+    EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
 }
 
 TEST_F(SelectedModelsTest, AsksForEachItemsModelsByTypeLocaleAndName) {
-    gLocale = 1031;
+    gBlock.gLocale = 1031;
     Have("Order, as we like it", {});
     Have("Order", {"g1"});
     EXPECT_CALL(database_, FindModels(1, 13, 1, 1031, std::string_view("Order"), 0));
     EXPECT_EQ(Retrieve("g1,Order,13"), std::nullopt);
     EXPECT_THAT(SelectedGuids(), ElementsAre("g1"));
-    EXPECT_EQ(gRunReport.modelsSelected, 1);
+    EXPECT_EQ(gBlock.gRunReport.modelsSelected, 1);
 }
 
 TEST_F(SelectedModelsTest, KeepsTheOrderOfTheCommandLine) {
@@ -102,7 +103,7 @@ TEST_F(SelectedModelsTest, KeepsTheOrderOfTheCommandLine) {
     Have("C", {"gc"});
     EXPECT_EQ(Retrieve("gc,C,13;ga,A,13;gb,B,13"), std::nullopt);
     EXPECT_THAT(SelectedGuids(), ElementsAre("gc", "ga", "gb"));
-    EXPECT_EQ(gRunReport.modelsSelected, 3);
+    EXPECT_EQ(gBlock.gRunReport.modelsSelected, 3);
 }
 
 TEST_F(SelectedModelsTest, TellsModelsOfOneNameApartByTheirGuid) {
@@ -114,8 +115,8 @@ TEST_F(SelectedModelsTest, TellsModelsOfOneNameApartByTheirGuid) {
 TEST_F(SelectedModelsTest, TakesTheFirstOfSeveralModelsWithTheGuid) {
     Have("A", {"g0", "g1", "g1"});
     EXPECT_EQ(Retrieve("g1,A,13"), std::nullopt);
-    EXPECT_EQ(gARISInterface->ColSelectedModels.Item("g1").Get(), &models_[1]);
-    EXPECT_EQ(gARISInterface->ColSelectedModels.Count(), 1);
+    EXPECT_EQ(gBlock.gARISInterface->ColSelectedModels.Item("g1").Get(), &models_[1]);
+    EXPECT_EQ(gBlock.gARISInterface->ColSelectedModels.Count(), 1);
 }
 
 TEST_F(SelectedModelsTest, AModelThatIsNoLongerThereIsPassedOverWithoutAWord) {
@@ -168,7 +169,7 @@ TEST_F(SelectedModelsTest, AWrongItemEndsTheRunWhateverWasFoundBefore) {
     Have("A", {"g1"});
     EXPECT_CALL(database_, FindModels).Times(1);
     ExpectBadItem("g1,A,13;g2,,13;g3,A,13", "g2,,13");
-    EXPECT_EQ(gRunReport.modelsSelected, 0);
+    EXPECT_EQ(gBlock.gRunReport.modelsSelected, 0);
 }
 
 TEST_F(SelectedModelsTest, ASemicolonAtTheEndMakesAnEmptyItemThatIsWrong) {
@@ -180,9 +181,9 @@ TEST_F(SelectedModelsTest, TypesAreNumbersAsTheUserWritesThem) {
     Have("A", {"g1"});
     EXPECT_CALL(database_, FindModels(1, 13, 1, 1033, std::string_view("A"), 0)).Times(3);
     EXPECT_EQ(Retrieve("g1,A, 13 "), std::nullopt);
-    gARISInterface->ColSelectedModels = {};
+    gBlock.gARISInterface->ColSelectedModels = {};
     EXPECT_EQ(Retrieve("g1,A,1.3e1"), std::nullopt);
-    gARISInterface->ColSelectedModels = {};
+    gBlock.gARISInterface->ColSelectedModels = {};
     EXPECT_EQ(Retrieve("g1,A,+12.6"), std::nullopt);
 }
 
@@ -251,12 +252,12 @@ TEST_F(HandedOverModelsTest, AreSelectedAsTheyAreInTheirOrder) {
     EXPECT_CALL(database_, FindModels).Times(0);
     EXPECT_EQ(HandOver({&first_, &second_}), std::nullopt);
     EXPECT_THAT(SelectedGuids(), ElementsAre("g;1,/x", "a"));
-    EXPECT_EQ(gARISInterface->ColSelectedModels.Item("g;1,/x").Get(), &first_);
-    EXPECT_EQ(gRunReport.modelsSelected, 2);
+    EXPECT_EQ(gBlock.gARISInterface->ColSelectedModels.Item("g;1,/x").Get(), &first_);
+    EXPECT_EQ(gBlock.gRunReport.modelsSelected, 2);
 }
 
 TEST_F(HandedOverModelsTest, LeaveTheSelectionOfTheCommandLineUnread) {
-    gARISInterface->sSelection = "wrong";
+    gBlock.gARISInterface->sSelection = "wrong";
     EXPECT_EQ(HandOver({&second_}), std::nullopt);
     EXPECT_THAT(SelectedGuids(), ElementsAre("a"));
 }

@@ -155,10 +155,10 @@ void PhotographAll(const std::string& language, const Photographer& photographer
     NoProgress progress;
     Platform platform{store,      libraries,       codePage,   clock,    userLocale, files,  messageBox,
                       fileDialog, optionsFormView, helpViewer, progress, directory,  "wxbrg"};
-    gPlatform = &platform;
+    gBlock.gPlatform = &platform;
     if (!LoadLocalizedResources()) throw std::runtime_error("there is no language library " + language);
-    gExceptionHandler = gPool.Create<clsExceptionHandler>();
-    gIOHandler = gPool.Create<clsIOHandler>();
+    gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
+    gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
     Later([&] {
         UseForm(photographer);
     });
@@ -170,7 +170,7 @@ void PhotographAll(const std::string& language, const Photographer& photographer
         });
     });
     try {
-        gIOHandler->FileSelectDialog();
+        gBlock.gIOHandler->FileSelectDialog();
     } catch (const RunEnd&) {
         RenewGlobals();
     }
