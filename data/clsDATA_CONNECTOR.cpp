@@ -62,7 +62,7 @@ void clsDATA_CONNECTOR::SetupProperties() {
         SetupProperty_Mapping(nullptr);
         SetupProperty_LAYOUT("");
         if (ConnectorKind == ConnectorKind::activityToActivity)
-            WriteNote(Severity::information, 3090, "DATA CONNECTOR", Linking);
+            WriteNote(Message::propertiesComplete, "DATA CONNECTOR", Linking);
         SetupFinished = true;
     });
 }
@@ -131,7 +131,7 @@ void clsDATA_CONNECTOR::SetupProperty_DESCRIPTION() {
     Procedure("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
         if (ConnectorKind != ConnectorKind::activityToActivity || !gBlock.gOptUseDescriptionAttr) return;
         if (!ConnectorPathsAvailable) {
-            frame.Raise(2090);
+            frame.Raise(Message::connectorPathsNotKnown);
             return;
         }
         SetupConnectorDescription(DESCRIPTION, ColPath);

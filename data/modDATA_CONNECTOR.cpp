@@ -18,14 +18,14 @@ bool IsInModel(const ARISObjDef& object, const clsPROCESS& process) {
 
 constexpr BetweenActivities<clsDATA_CONNECTOR> dataFlow{
     &clsACTIVITY::Col_DATA_CONNECTOR_IN, &clsACTIVITY::Col_DATA_CONNECTOR_OUT,
-    &clsPROCESS::Col_DATA_CONNECTOR, &clsPROCESS::DataFlow, 3080};
+    &clsPROCESS::Col_DATA_CONNECTOR, &clsPROCESS::DataFlow, Message::dataConnectorCreated};
 
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
     const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
     connector->ConnectorKind = ConnectorKind::activityToActivity;
     AddBetweenActivities(dataFlow, connector, process, from, to, [&] {
         if (gBlock.gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
-            NoteConnector(Severity::exclamation, 3140, from, to);
+            NoteConnector(Message::dataFlowLoop, from, to);
     });
 }
 

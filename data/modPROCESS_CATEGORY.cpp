@@ -11,7 +11,7 @@ void PROCESS_CATEGORY_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISMode
             const Ref<clsPROCESS_CATEGORY> category = gBlock.gPool.Create<clsPROCESS_CATEGORY>();
             category->ARIS_Group = group;
             gBlock.gColPROCESS_CATEGORY.AddNew(category, group->Guid());
-            WriteNote(Severity::information, 3040, group->Name(gBlock.gLocale));
+            WriteNote(Message::categoryCreated, group->Name(gBlock.gLocale));
         }
     });
 }

@@ -43,7 +43,7 @@ std::string ShortName(std::string_view text) {
 }
 
 std::string ObjectNameText(std::string_view text) {
-    if (text.empty()) Fail(2050);
+    if (text.empty()) Fail(Message::nameMissing);
     return ShortName(Replace(ReplaceEach(std::string(text), lineBreaksAndTab, " "), ".", "_"));
 }
 
@@ -88,16 +88,12 @@ constexpr std::array dataTypes{std::to_array<DataTypeRow>({
     {"Real", "FLOAT"},
     {"Number (n,m)", "FLOAT"},
 })};
-/// Numbers of the domain types' names in the language of the run.
-constexpr std::int32_t floatTypeText = 4000;
-constexpr std::int32_t longTypeText = 4010;
-
 std::string DataTypeText(std::string_view text) {
     const std::string_view word = Trim(text);
     for (const DataTypeRow& row : dataTypes)
         if (row.domainType == word) return std::string(row.dataType);
-    if (word == GetNLSString(floatTypeText)) return "FLOAT";
-    if (word == GetNLSString(longTypeText)) return "LONG";
+    if (word == GetNLSString(NumberOf(Message::floatTypeWord))) return "FLOAT";
+    if (word == GetNLSString(NumberOf(Message::longTypeWord))) return "LONG";
     return "STRING";
 }
 
@@ -122,7 +118,7 @@ std::string ConvertByKind(std::string_view text, std::string_view kind, std::str
     if (kind == NameKind::identifier) return IdentifierText(text);
     if (kind == NameKind::compareOperator) return Replace(text, "!=", "<>");
     if (kind == NameKind::dataType) return DataTypeText(text);
-    Fail(2040, kind, text);
+    Fail(Message::unknownNameKind, kind, text);
 }
 
 /// The attribute of a rule that the caller has just read with success; 0 without a rule.
@@ -142,7 +138,7 @@ std::string ConvertARISName(std::string_view text, std::string_view kind, std::s
     std::string converted(text);
     if (gBlock.gOptConvertNames) {
         converted = Trim(Replace(ConvertByKind(text, kind, ruleName, attribute), "'", "''"));
-        if (converted != text) WriteNote(Severity::information, 3100, text, converted);
+        if (converted != text) WriteNote(Message::textChanged, text, converted);
     }
     scope.End();
     return converted;

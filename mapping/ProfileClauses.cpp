@@ -32,7 +32,7 @@ std::vector<const ProfileRow*> RowsOf(std::int32_t state) {
 }
 
 std::int32_t FailureOf(std::int32_t state) {
-    return profileGrammar::failures[static_cast<std::size_t>(state)].number;
+    return NumberOf(profileGrammar::failures[static_cast<std::size_t>(state)].message);
 }
 
 /// What a number is expected to be, by the failure that its absence brings.

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "mapping/clsMappingRuleToken.h"
+#include "run/Messages.h"
 
 /// The grammar of a mapping profile, as a table of states.
 namespace wxbrg {
@@ -47,7 +48,7 @@ struct ProfileRow {
 
 /// What any other token of a state fails with.
 struct ProfileFailure {
-    std::int32_t number;
+    Message message;
     std::string_view expected;  ///< second argument of the failure 2130
 };
 
@@ -98,45 +99,46 @@ inline constexpr auto rows = std::to_array<ProfileRow>({
 
 /// By state. The list of state 24 does not name END, which is accepted there all the same.
 inline constexpr auto failures = std::to_array<ProfileFailure>({
-    {2130, R"("OBJECT_MAPPING", "ATTRIBUTE_MAPPING", "CONNECTION_MAPPING")"},
-    {2140, ""},
-    {2130, R"("OBJECT_TYPE")"},
-    {2150, ""},
-    {2160, ""},
-    {2130, R"("END", "OBJECT_TYPE")"},
-    {2140, ""},
-    {2130, R"("ATTRIBUTE_TYPE")"},
-    {2150, ""},
-    {2170, ""},
-    {2130, R"("END")"},
-    {2140, ""},
-    {2130, R"("SOURCE_OBJECT_TYPE")"},
-    {2150, ""},
-    {2160, ""},
-    {2130, R"("TARGET_OBJECT_TYPE")"},
-    {2150, ""},
-    {2160, ""},
-    {2130, R"("CONNECTION_KIND")"},
-    {2150, ""},
-    {2180, ""},
-    {2130, R"("CONNECTION_TYPE")"},
-    {2150, ""},
-    {2190, ""},
-    {2130, R"("SOURCE_OBJECT_TYPE", "TARGET_OBJECT_RULE")"},
-    {2150, ""},
-    {2140, ""},
-    {2130, R"("SOURCE_OBJECT_TYPE", "END")"},
+    {Message::keywordExpected, R"("OBJECT_MAPPING", "ATTRIBUTE_MAPPING", "CONNECTION_MAPPING")"},
+    {Message::ruleNameExpected, ""},
+    {Message::keywordExpected, R"("OBJECT_TYPE")"},
+    {Message::equalsExpected, ""},
+    {Message::objectTypeExpected, ""},
+    {Message::keywordExpected, R"("END", "OBJECT_TYPE")"},
+    {Message::ruleNameExpected, ""},
+    {Message::keywordExpected, R"("ATTRIBUTE_TYPE")"},
+    {Message::equalsExpected, ""},
+    {Message::attributeTypeExpected, ""},
+    {Message::keywordExpected, R"("END")"},
+    {Message::ruleNameExpected, ""},
+    {Message::keywordExpected, R"("SOURCE_OBJECT_TYPE")"},
+    {Message::equalsExpected, ""},
+    {Message::objectTypeExpected, ""},
+    {Message::keywordExpected, R"("TARGET_OBJECT_TYPE")"},
+    {Message::equalsExpected, ""},
+    {Message::objectTypeExpected, ""},
+    {Message::keywordExpected, R"("CONNECTION_KIND")"},
+    {Message::equalsExpected, ""},
+    {Message::connectionKindExpected, ""},
+    {Message::keywordExpected, R"("CONNECTION_TYPE")"},
+    {Message::equalsExpected, ""},
+    {Message::connectionTypeExpected, ""},
+    {Message::keywordExpected, R"("SOURCE_OBJECT_TYPE", "TARGET_OBJECT_RULE")"},
+    {Message::equalsExpected, ""},
+    {Message::ruleNameExpected, ""},
+    {Message::keywordExpected, R"("SOURCE_OBJECT_TYPE", "END")"},
 });
 // clang-format on
 
 /// Whether every state is led to, has an accepted token, and has a failure of the sort of what it accepts.
 constexpr bool StatesHold() {
     for (const ProfileRow& row : rows) {
-        const std::int32_t failure = failures[static_cast<std::size_t>(row.state)].number;
-        const bool fits = row.tokenType == key      ? failure == 2130
-                          : row.tokenType == word   ? failure == 2140
-                          : row.tokenType == equals ? failure == 2150
-                                                    : failure >= 2160 && failure <= 2190;
+        const Message failure = failures[static_cast<std::size_t>(row.state)].message;
+        const bool fits = row.tokenType == key      ? failure == Message::keywordExpected
+                          : row.tokenType == word   ? failure == Message::ruleNameExpected
+                          : row.tokenType == equals ? failure == Message::equalsExpected
+                                                    : failure >= Message::objectTypeExpected &&
+                                                          failure <= Message::connectionTypeExpected;
         const bool leads = row.nextState >= 0 && row.nextState < static_cast<std::int32_t>(failures.size());
         if (!fits || !leads) return false;
     }

@@ -26,7 +26,7 @@ class ProfileParser {
             });
         if (row == profileGrammar::rows.end()) {
             const ProfileFailure& failure = profileGrammar::failures[static_cast<std::size_t>(state_)];
-            frame_.Raise(failure.number, token.TokenValue, failure.expected);
+            frame_.RaiseOfTable(failure.message, {token.TokenValue, failure.expected});
         }
         Act(row->action, token);
         state_ = row->nextState;
@@ -93,7 +93,8 @@ class ProfileParser {
     /// A name that is taken brings the warning 2110, and the first rule stays.
     void AddRule() {
         gBlock.gFailureContext = "Add mapping rule";
-        if (!gBlock.gColMappingRule.AddNew(rule_, rule_->Name)) frame_.Raise(2110, rule_->Name);
+        if (!gBlock.gColMappingRule.AddNew(rule_, rule_->Name))
+            frame_.Raise(Message::ruleDoubled, rule_->Name);
         gBlock.gFailureContext = "";
     }
 
@@ -110,7 +111,7 @@ void clsIOHandler::ParseMappingFile() {
     Procedure("clsIOHandler.ParseMappingFile", [&](Frame& frame) {
         const std::string text = ReadMappingProfile();
         if (text.empty()) {
-            if (MappingProfileFound) frame.Raise(2210);
+            if (MappingProfileFound) frame.Raise(Message::profileEmpty);
             CreateDefaultMappingRules();
             return;
         }

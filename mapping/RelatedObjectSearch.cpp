@@ -101,7 +101,7 @@ class RelatedSearch {
     }
 
     [[noreturn]] void Fail(const ARISObjDef& item) {
-        frame_.Raise(2230, item->Name(gBlock.gLocale), item->Type());
+        frame_.Raise(Message::searchTooDeep, item->Name(gBlock.gLocale), item->Type());
         throw Failure(FailureKind::invalidCall);
     }
 

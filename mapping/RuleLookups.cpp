@@ -162,7 +162,7 @@ Collection<ARISObjDef>& Find_Related_ARIS_ObjDef(Collection<ARISObjDef>& result,
                     other = connection->TargetObjDef();
                     break;
                 default:
-                    frame.Raise(2030, std::to_string(cnxKind));
+                    frame.Raise(Message::unknownConnectionKind, std::to_string(cnxKind));
             }
             if (other->TypeNum() == targetObjTypeNum && IsDrawn(other)) result.AddNew(other, other->Guid());
         }

@@ -27,7 +27,7 @@ void CreateRules(Frame& frame, const Rows& rows) {
         const Ref<clsMappingRule> rule = gBlock.gPool.Create<clsMappingRule>();
         rule->Name = rows[i].rule;
         for (; i < rows.size() && rows[i].rule == rule->Name; ++i) AddRow(*rule, rows[i]);
-        if (!gBlock.gColMappingRule.AddNew(rule, rule->Name)) frame.Raise(2110, rule->Name);
+        if (!gBlock.gColMappingRule.AddNew(rule, rule->Name)) frame.Raise(Message::ruleDoubled, rule->Name);
     }
 }
 
@@ -48,7 +48,7 @@ Ref<const clsMappingRule> FetchRule(Frame& frame, std::string_view ruleName) {
         return rule->Get();
     }
     gBlock.gFailureContext = "failed";
-    frame.Raise(2100, ruleName);
+    frame.Raise(Message::ruleMissing, ruleName);
     return nullptr;
 }
 

@@ -22,9 +22,8 @@ std::string FromToText(const ARISObjDef& from, const ARISObjDef& to) {
     return "FROM " + first + " TO " + CitedName(to);
 }
 
-void NoteConnector(std::int16_t severity, std::int32_t number, const ARISObjDef& from, const ARISObjDef& to) {
-    WriteNote(severity, number, from->Type(), from->Name(gBlock.gLocale), to->Type(),
-              to->Name(gBlock.gLocale));
+void NoteConnector(MessageWith<4> note, const ARISObjDef& from, const ARISObjDef& to) {
+    WriteNote(note, from->Type(), from->Name(gBlock.gLocale), to->Type(), to->Name(gBlock.gLocale));
 }
 
 PathCollection ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule) {

@@ -9,7 +9,7 @@
 #include "model/FlowLoops.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsPROCESS.h"
-#include "run/clsExceptionHandler.h"
+#include "run/Messages.h"
 #include "support/Collection.h"
 #include "support/Ref.h"
 
@@ -26,7 +26,7 @@ std::string CitedName(const ARISObjDef& object);
 std::string FromToText(const ARISObjDef& from, const ARISObjDef& to);
 
 /// A note about a connector: type and name of its two ends.
-void NoteConnector(std::int16_t severity, std::int32_t number, const ARISObjDef& from, const ARISObjDef& to);
+void NoteConnector(MessageWith<4> note, const ARISObjDef& from, const ARISObjDef& to);
 
 /// All paths between the ends of a connector by the rule that found it.
 PathCollection ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std::string_view rule);
@@ -49,7 +49,7 @@ struct BetweenActivities {
     Collection<Ref<Connector>> clsACTIVITY::*leaving;
     Collection<Ref<Connector>> clsPROCESS::*all;
     FlowLoops clsPROCESS::*flow;
-    std::int32_t createdNote;
+    MessageWith<4> createdNote;
 };
 
 /// Completes a new connector between two objects: finds its paths, hangs it on its activities, tests it for a
@@ -70,7 +70,7 @@ void AddBetweenActivities(const BetweenActivities<Connector>& sort, const Ref<Co
         ((*left).*sort.leaving).AddNew(connector, key);
     reportLoop();
     if ((process.*sort.all).AddNew(connector, key)) (process.*sort.flow).Add(from->Guid(), to->Guid());
-    NoteConnector(Severity::information, sort.createdNote, from, to);
+    NoteConnector(sort.createdNote, from, to);
 }
 
 }  // namespace wxbrg

@@ -20,16 +20,15 @@ std::string Quoted(std::string_view text) {
 }
 
 void NoteMapped(const ARISObjDef& item, std::string_view kind) {
-    WriteNote(Severity::information, 3060, item->Name(gBlock.gLocale), item->Type(), kind);
+    WriteNote(Message::objectMapped, item->Name(gBlock.gLocale), item->Type(), kind);
 }
 
 void NoteFurtherIgnored(const Collection<ARISObjDef>& related, std::string_view first,
                         std::string_view second) {
     if (related.Count() < 2) return;
-    WriteNote(Severity::exclamation, 3000, first, second);
+    WriteNote(Message::oneOfSeveralTaken, first, second);
     for (std::int32_t i = 2; i <= related.Count(); ++i)
-        WriteNote(Severity::information, 3030, related.Item(i)->Name(gBlock.gLocale),
-                  related.Item(i)->Type());
+        WriteNote(Message::furtherObject, related.Item(i)->Name(gBlock.gLocale), related.Item(i)->Type());
 }
 
 void SetupText(std::string_view procedure, std::string& property, bool gate, std::string_view nameKind,

@@ -78,7 +78,8 @@ Ref<Object> AddARISMapping(const MappingWords& words, const ARISObjDef& item,
                            Collection<Ref<Object>>& registry, Prepare&& prepare) {
     return Procedure(words.procedure, [&](Frame& frame) -> Ref<Object> {
         if (!ARIS_ObjDef_Conforms_To_Mapping_Rule(item, words.rule))
-            frame.Raise(2120, item->Type(), item->Name(gBlock.gLocale), words.kindInFailure);
+            frame.Raise(Message::objectOfWrongKind, item->Type(), item->Name(gBlock.gLocale),
+                        words.kindInFailure);
         if (ARIS_ObjDefIsMemberOfCollection(item, registry)) return registry.Item(item->Guid());
         const Ref<Object> object = gBlock.gPool.Create<Object>();
         object->ARISObjectDefinition = item;
@@ -108,7 +109,7 @@ void SetupOnce(std::string_view procedure, bool& finished, std::string_view kind
     Procedure(procedure, [&](Frame&) {
         if (finished) return;
         steps();
-        WriteNote(Severity::information, 3090, kind, printedName);
+        WriteNote(Message::propertiesComplete, kind, printedName);
         finished = true;
     });
 }

@@ -70,7 +70,7 @@ void clsPROCESS::SetupProperty_WINDOW() {
         if (LayoutConversionFinished)
             WINDOW = "PAPERSIZE WIDTH " + size + " HEIGHT " + size;
         else
-            frame.Raise(2060, ARIS_Model->Name(gBlock.gLocale));
+            frame.Raise(Message::modelLayoutNotConverted, ARIS_Model->Name(gBlock.gLocale));
     });
 }
 
@@ -78,7 +78,7 @@ void clsPROCESS::CollectBoundaryLayouts(Frame& frame, std::int32_t kind,
                                         std::string clsDATA_CONNECTOR::*layout,
                                         Collection<std::string>& layouts) {
     if (!LayoutConversionFinished) {
-        frame.Raise(2060, ARIS_Model->Name(gBlock.gLocale));
+        frame.Raise(Message::modelLayoutNotConverted, ARIS_Model->Name(gBlock.gLocale));
         return;
     }
     for (const Ref<clsDATA_CONNECTOR>& connector : Col_DATA_CONNECTOR)

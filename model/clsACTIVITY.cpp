@@ -21,7 +21,7 @@ void clsACTIVITY::SetupIndependentProperties(Collection<ARISModel>& ColNewModels
             SetupProperty_ProcessActivitySetting(ColNewModels);
         else
             SetupProperty_ProgramActivitySetting();
-        WriteNote(Severity::information, 3090,
+        WriteNote(Message::propertiesComplete,
                   Is_PROCESS_ACTIVITY() ? "PROCESS_ACTIVITY" : "PROGRAM_ACTIVITY", ActivityName);
         SetupProperty_OtherSettings();
         SetupIndependentPropertiesFinished = true;
@@ -57,7 +57,7 @@ void clsACTIVITY::SetupProperty_LAYOUT() {
         if (LayoutConversionFinished)
             LAYOUT = PositionText(WPX_XPos, WPX_YPos);
         else
-            frame.Raise(2070, ARISObjectDefinition->Name(gBlock.gLocale));
+            frame.Raise(Message::activityLayoutNotConverted, ARISObjectDefinition->Name(gBlock.gLocale));
     });
 }
 
@@ -106,7 +106,7 @@ void clsACTIVITY::SetupProperty_PROGRAM() {
             PROGRAM_Add_ARIS_Mapping(first);
         }
         if (programs.Count() < 2) return;
-        WriteNote(Severity::information, 3010, "PROGRAM", "ACTIVITY");
+        WriteNote(Message::severalPrograms, "PROGRAM", "ACTIVITY");
         for (std::int32_t i = 2; i <= programs.Count(); ++i) NoteMapped(programs.Item(i), "SUPPORT_TOOL");
     });
 }

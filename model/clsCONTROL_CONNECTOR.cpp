@@ -28,7 +28,7 @@ std::string Comparison(const ARISObjDef& event, const Collection<ARISObjDef>& da
     if (!IsNumeric(value, DecimalSeparator())) value = "\"" + value + "\"";
     std::string name = ConvertARISName(data.Item(1)->Name(gBlock.gLocale), NameKind::memberName, "");
     if (name.find(' ') != std::string::npos) name = "''" + name + "''";
-    if (data.Count() > 1) WriteNote(Severity::exclamation, 3120, event->Name(gBlock.gLocale));
+    if (data.Count() > 1) WriteNote(Message::severalDataCompared, event->Name(gBlock.gLocale));
     return name + " " + compareOperator + " " + value;
 }
 
@@ -99,7 +99,7 @@ void clsCONTROL_CONNECTOR::SetupProperty_DESCRIPTION() {
     Procedure("clsCONTROL_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
         if (!gBlock.gOptUseDescriptionAttr) return;
         if (!ConnectorPathsAvailable) {
-            frame.Raise(2080);
+            frame.Raise(Message::controlPathsNotKnown);
             return;
         }
         SetupConnectorDescription(DESCRIPTION, ColPath);
@@ -122,7 +122,7 @@ std::string clsCONTROL_CONNECTOR::ConditionOf(const ARISObjDef& object) {
 void clsCONTROL_CONNECTOR::SetupProperty_Condition() {
     Procedure("clsCONTROL_CONNECTOR.SetupProperty_Condition", [&](Frame& frame) {
         if (!ConnectorPathsAvailable) {
-            frame.Raise(2080);
+            frame.Raise(Message::controlPathsNotKnown);
             return;
         }
         ConditionReader reader([&](const ARISObjDef& object) {

@@ -132,7 +132,7 @@ void clsPROCESS::FinishBoundaryConnectors(std::int32_t kind, std::string (clsPRO
         connector->SetupProperty_Linking(generated);
         connector->SetupProperty_Mapping(container);
         connector->SetupProperty_LAYOUT(generated);
-        WriteNote(Severity::information, 3090, "DATA CONNECTOR", connector->Linking);
+        WriteNote(Message::propertiesComplete, "DATA CONNECTOR", connector->Linking);
     }
 }
 

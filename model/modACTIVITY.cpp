@@ -17,9 +17,9 @@ void AssignModel(clsACTIVITY& activity) {
     if (models.IsEmpty()) return;
     activity.AssignedModel = models.Item(1);
     if (models.Count() == 1) return;
-    WriteNote(Severity::exclamation, 3000, "PROCESS", "PROCESS_ACTIVITY");
+    WriteNote(Message::oneOfSeveralTaken, "PROCESS", "PROCESS_ACTIVITY");
     for (std::int32_t i = 2; i <= models.Count(); ++i)
-        WriteNote(Severity::information, 3020, models.Item(i)->Name(gBlock.gLocale), models.Item(i)->Type());
+        WriteNote(Message::furtherModel, models.Item(i)->Name(gBlock.gLocale), models.Item(i)->Type());
 }
 
 void AddActivity(clsPROCESS& process, const ARISObjDef& object, const ARISObjOcc& occurrence) {

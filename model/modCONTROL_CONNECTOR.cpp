@@ -13,13 +13,13 @@ namespace {
 
 constexpr BetweenActivities<clsCONTROL_CONNECTOR> controlFlow{
     &clsACTIVITY::Col_CONTROL_CONNECTOR_IN, &clsACTIVITY::Col_CONTROL_CONNECTOR_OUT,
-    &clsPROCESS::Col_CONTROL_CONNECTOR, &clsPROCESS::ControlFlow, 3070};
+    &clsPROCESS::Col_CONTROL_CONNECTOR, &clsPROCESS::ControlFlow, Message::controlConnectorCreated};
 
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
     const Ref<clsCONTROL_CONNECTOR> connector = gBlock.gPool.Create<clsCONTROL_CONNECTOR>();
     AddBetweenActivities(controlFlow, connector, process, from, to, [&] {
         if (gBlock.gOptFindControlFlowLoops && connector->IsMemberOfInvalidControlFlowLoop(process))
-            NoteConnector(Severity::exclamation, 3130, from, to);
+            NoteConnector(Message::controlFlowLoop, from, to);
     });
 }
 

@@ -34,7 +34,7 @@ void PROCESS_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
             process->ARIS_Model = model;
             process->ARIS_Group = model->Group();
             gBlock.gColPROCESS.AddNew(process, model->Guid());
-            WriteNote(Severity::information, 3050, model->Name(gBlock.gLocale));
+            WriteNote(Message::processCreated, model->Name(gBlock.gLocale));
         }
     });
 }

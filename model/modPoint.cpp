@@ -60,11 +60,11 @@ std::optional<clsPoint> CalculateGraphicalCenterOfARISObjects(const Collection<A
 void AddBendPoint(Frame& frame, std::string& layout, const PathCollection& paths, bool pathsAvailable,
                   const ARISObjDef& from, const ARISObjDef& to, const clsPROCESS& process) {
     if (!pathsAvailable) {
-        frame.Raise(2090);
+        frame.Raise(Message::connectorPathsNotKnown);
         return;
     }
     if (!process.LayoutConversionFinished) {
-        frame.Raise(2060, process.ARIS_Model->Name(gBlock.gLocale));
+        frame.Raise(Message::modelLayoutNotConverted, process.ARIS_Model->Name(gBlock.gLocale));
         return;
     }
     const std::vector<ARISObjDef> between = paths.FirstObjectsBetween();

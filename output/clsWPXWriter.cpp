@@ -31,7 +31,7 @@ void clsWPXWriter::WriteAll() {
         count += WriteAllOrganization(false);
         count += WriteAllOrganization(true);
         count += WriteAllProcess();
-        WriteNote(Severity::information, 3110, std::to_string(count));
+        WriteNote(Message::exportComplete, std::to_string(count));
         gBlock.gRunReport.objectsWritten = static_cast<std::uint64_t>(count);
         gBlock.gRunReport.processes = static_cast<std::uint64_t>(gBlock.gColPROCESS.Count());
     });

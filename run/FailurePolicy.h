@@ -1,10 +1,26 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
+#include <optional>
+
+#include "run/Messages.h"
 
 namespace wxbrg {
+
+/// What the tail does after a failure; the numbers are the exception handler's action codes.
+enum class FailureAction : std::int16_t {
+    retry = 0,    ///< run the failing statement again
+    proceed = 1,  ///< go on with the statement behind it
+    leave = 2,    ///< return from the procedure, normally
+    endRun = 3,   ///< end the run at once
+    unknown = 4,  ///< the number is not known: report it to the user and end the run
+};
+
+/// Failure numbers that stand for a cancelled dialog, and bring a question.
+namespace CancelNumber {
+inline constexpr std::int32_t optionsForm = 999;
+inline constexpr std::int32_t fileDialog = 32755;
+}  // namespace CancelNumber
 
 /// What a box about a failure says.
 enum class BoxForm {
@@ -13,65 +29,29 @@ enum class BoxForm {
     question,  ///< header 1010, the question whether to end, Yes and No
 };
 
-/// What to do about a failure with a number of the program's own. A number without a row is unknown.
+/// What to do about a failure.
 struct FailurePolicy {
-    std::int16_t number;
     BoxForm box;
-    std::int16_t answer;     ///< action code after OK or Yes
-    std::int16_t otherwise;  ///< action code after No; the same as `answer` where there is no question
+    FailureAction answer;     ///< after OK or Yes
+    FailureAction otherwise;  ///< after No; the same as `answer` where there is no question
+
+    bool operator==(const FailurePolicy&) const = default;
 };
 
-// clang-format off
-inline constexpr std::array failurePolicies{
-    FailurePolicy{  999, BoxForm::question, 3, 2},
-    FailurePolicy{ 2000, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2010, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2020, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2030, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2040, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2050, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2060, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2070, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2080, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2090, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2100, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2110, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2120, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2130, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2140, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2150, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2160, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2170, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2180, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2190, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2200, BoxForm::failure,  3, 3},
-    FailurePolicy{ 2210, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2220, BoxForm::warning,  1, 1},
-    FailurePolicy{ 2230, BoxForm::failure,  3, 3},
-    FailurePolicy{32755, BoxForm::question, 3, 0},
-};
-// clang-format on
-
-static_assert(std::is_sorted(failurePolicies.begin(), failurePolicies.end(),
-                             [](const auto& a, const auto& b) {
-                                 return a.number < b.number;
-                             }));
-static_assert(std::adjacent_find(failurePolicies.begin(), failurePolicies.end(),
-                                 [](const auto& a, const auto& b) {
-                                     return a.number == b.number;
-                                 }) == failurePolicies.end());
-static_assert(std::all_of(failurePolicies.begin(), failurePolicies.end(), [](const auto& row) {
-    return row.answer == (row.box == BoxForm::warning ? 1 : 3) &&
-           (row.box == BoxForm::question || row.otherwise == row.answer);
-}));
-
-/// The row of a number, or null.
-constexpr const FailurePolicy* FindFailurePolicy(std::int16_t number) {
-    const auto* const found = std::lower_bound(failurePolicies.begin(), failurePolicies.end(), number,
-                                               [](const auto& row, auto wanted) {
-                                                   return row.number < wanted;
-                                               });
-    return found != failurePolicies.end() && found->number == number ? found : nullptr;
+/// The policy of a failure number: a question for a cancelled dialog, and by the severity of the message for
+/// the failures of the program's own. Nothing for any other number, which is unknown.
+constexpr std::optional<FailurePolicy> PolicyOf(std::int32_t number) {
+    constexpr std::int32_t firstFailure = 2000;
+    constexpr std::int32_t firstNote = 3000;
+    if (number == CancelNumber::optionsForm)
+        return FailurePolicy{BoxForm::question, FailureAction::endRun, FailureAction::leave};
+    if (number == CancelNumber::fileDialog)
+        return FailurePolicy{BoxForm::question, FailureAction::endRun, FailureAction::retry};
+    const MessageRow* const message = FindMessage(number);
+    if (message == nullptr || number < firstFailure || number >= firstNote) return std::nullopt;
+    if (message->severity == Severity::exclamation)
+        return FailurePolicy{BoxForm::warning, FailureAction::proceed, FailureAction::proceed};
+    return FailurePolicy{BoxForm::failure, FailureAction::endRun, FailureAction::endRun};
 }
 
 }  // namespace wxbrg

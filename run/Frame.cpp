@@ -83,18 +83,13 @@ void Frame::LeaveByCurrentException() {
     Restore();
 }
 
-void Frame::Raise(std::int32_t number, std::string_view s1, std::string_view s2, std::string_view s3,
-                  std::string_view s4) {
-    Act(Failure::WithDescription(number, GetNLSString(number, s1, s2, s3, s4)));
-}
-
 void Frame::RaiseBare(std::int32_t number) {
     Act(Failure::WithDescription(number, std::string()));
 }
 
-void Fail(std::int32_t number, std::string_view s1, std::string_view s2, std::string_view s3,
-          std::string_view s4) {
-    throw Failure::WithDescription(number, GetNLSString(number, s1, s2, s3, s4));
+Failure DescribedFailure(std::int32_t number, const MessageArguments& arguments) {
+    return Failure::WithDescription(
+        number, GetNLSString(number, arguments[0], arguments[1], arguments[2], arguments[3]));
 }
 
 }  // namespace wxbrg

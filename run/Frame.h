@@ -5,6 +5,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "run/FailurePolicy.h"
+#include "run/Messages.h"
 #include "run/RunExport.h"
 #include "run/modGlobals.h"
 #include "support/Failure.h"
@@ -27,14 +29,8 @@ struct RunEnd {
     std::int32_t number;
 };
 
-/// What the tail does after a failure; the numbers are the exception handler's action codes.
-enum class FailureAction : std::int16_t {
-    retry = 0,    ///< run the failing statement again
-    proceed = 1,  ///< go on with the statement behind it
-    leave = 2,    ///< return from the procedure, normally
-    endRun = 3,   ///< end the run at once
-    unknown = 4,  ///< nothing is known of the number: tell the user and end the run
-};
+/// The failure of a message's number, described by its text with the arguments.
+Failure DescribedFailure(std::int32_t number, const MessageArguments& arguments);
 
 class Frame {
   public:
@@ -44,10 +40,16 @@ class Frame {
     Frame(const Frame&) = delete;
     Frame& operator=(const Frame&) = delete;
 
-    /// Fails with a number of the program's own, described by that number's text with up to four arguments,
-    /// and runs the tail at once. It comes back for a warning; else the procedure or the run ends here.
-    void Raise(std::int32_t number, std::string_view s1 = {}, std::string_view s2 = {},
-               std::string_view s3 = {}, std::string_view s4 = {});
+    /// Fails with a message, described by its text with the arguments, and runs the tail at once. It comes
+    /// back for a warning; else the procedure or the run ends here.
+    template <class... Texts>
+    void Raise(MessageWith<sizeof...(Texts)> message, const Texts&... texts) {
+        Act(DescribedFailure(message.Number(), {std::string_view(texts)...}));
+    }
+    /// Likewise for a message out of a table, which knows how many arguments go with it.
+    void RaiseOfTable(Message message, const MessageArguments& arguments) {
+        Act(DescribedFailure(NumberOf(message), arguments));
+    }
     /// Likewise for a number without a description.
     void RaiseBare(std::int32_t number);
 
@@ -143,9 +145,11 @@ class NamedScope {
     std::string_view caller_;
 };
 
-/// Fails in a procedure without a frame: throws a number of the program's own, described by its text, to the
+/// Fails in a procedure without a frame: throws a message, described by its text with the arguments, to the
 /// caller's frame.
-[[noreturn]] void Fail(std::int32_t number, std::string_view s1 = {}, std::string_view s2 = {},
-                       std::string_view s3 = {}, std::string_view s4 = {});
+template <class... Texts>
+[[noreturn]] void Fail(MessageWith<sizeof...(Texts)> message, const Texts&... texts) {
+    throw DescribedFailure(message.Number(), {std::string_view(texts)...});
+}
 
 }  // namespace wxbrg

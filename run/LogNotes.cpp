@@ -12,10 +12,10 @@ std::string GetNLSMessage(std::int16_t Severity, std::int32_t ID, std::string_vi
     return clsExceptionHandler::FormatMessageID(Severity, ID) + GetNLSString(ID, S1, S2, S3, S4);
 }
 
-void WriteNote(std::int16_t Severity, std::int32_t ID, std::string_view S1, std::string_view S2,
-               std::string_view S3, std::string_view S4) {
-    gBlock.gIOHandler->WriteLog(GetNLSMessage(Severity, ID, S1, S2, S3, S4));
-    CountSeverity(gBlock.gRunReport.notes, Severity);
+void WriteNoteLine(std::int32_t number, std::int16_t severity, const MessageArguments& arguments) {
+    gBlock.gIOHandler->WriteLog(
+        GetNLSMessage(severity, number, arguments[0], arguments[1], arguments[2], arguments[3]));
+    CountSeverity(gBlock.gRunReport.notes, severity);
 }
 
 }  // namespace wxbrg

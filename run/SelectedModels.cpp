@@ -11,12 +11,12 @@ namespace wxbrg {
 void clsARIS_Interface::RetrieveSelectedARISModels() {
     Procedure("clsARIS_Interface.RetrieveSelectedARISModels", [&](Frame& frame) {
         oApplication = gBlock.gAutomation->CreateObject(arisProgramId);
-        if (!oApplication) frame.Raise(2010);
+        if (!oApplication) frame.Raise(Message::arisNotStarted);
         oReportComponent = oApplication->GetComponent(arisReportComponent);
         Database = oReportComponent->OpenDatabase(sServer, sDatabase, sRegistry, sUser, "");
         std::string item;
         const bool good = AddSelectedModels(item);
-        if (!good || ColSelectedModels.IsEmpty()) frame.Raise(2020, item);
+        if (!good || ColSelectedModels.IsEmpty()) frame.Raise(Message::wrongSelection, item);
         gBlock.gRunReport.modelsSelected = static_cast<std::uint64_t>(ColSelectedModels.Count());
     });
 }

@@ -1,6 +1,7 @@
 #include "run/clsExceptionHandler.h"
 
 #include <cstdlib>
+#include <optional>
 
 #include "options/MessageTexts.h"
 #include "run/FailurePolicy.h"
@@ -15,16 +16,16 @@ constexpr std::string_view lineEnd = "\r\n";
 /// Stands in a box text where the message number comes.
 constexpr std::string_view messageIdMark = "<MessageID>";
 
-std::string Header(std::int32_t number, std::string_view procedure) {
-    return GetNLSString(number, messageIdMark, procedure).append(lineEnd);
+std::string Header(MessageWith<2> header, std::string_view procedure) {
+    return GetNLSString(header.Number(), messageIdMark, procedure).append(lineEnd);
 }
 
 std::string Body(const std::string& description) {
-    return GetNLSString(1020).append(lineEnd).append(description);
+    return GetNLSString(NumberOf(Message::descriptionHeader)).append(lineEnd).append(description);
 }
 
 std::string Question() {
-    return std::string(lineEnd).append(GetNLSString(1030)).append(lineEnd);
+    return std::string(lineEnd).append(GetNLSString(NumberOf(Message::endQuestion))).append(lineEnd);
 }
 
 std::string_view SeverityText(std::int16_t severity) {
@@ -76,30 +77,30 @@ clsExceptionHandler::clsExceptionHandler() {
 }
 
 FailureAction clsExceptionHandler::AnalyseError(std::int16_t Number, const std::string& Description) {
-    const FailurePolicy* const policy = FindFailurePolicy(Number);
-    if (policy == nullptr) return FailureAction::unknown;
+    const std::optional<FailurePolicy> policy = PolicyOf(Number);
+    if (!policy) return FailureAction::unknown;
     bool otherwise = false;
     switch (policy->box) {
         case BoxForm::failure:
-            ShowNumbered(Header(1000, gBlock.gCurrentProcedure) + Body(Description), Severity::critical,
-                         Number, BoxStyle::ok);
+            ShowNumbered(Header(Message::failureHeader, gBlock.gCurrentProcedure) + Body(Description),
+                         Severity::critical, Number, BoxStyle::ok);
             break;
         case BoxForm::warning:
-            ShowNumbered(Header(1010, gBlock.gCurrentProcedure) + Body(Description), Severity::exclamation,
-                         Number, BoxStyle::ok);
+            ShowNumbered(Header(Message::warningHeader, gBlock.gCurrentProcedure) + Body(Description),
+                         Severity::exclamation, Number, BoxStyle::ok);
             break;
         case BoxForm::question:
-            otherwise = ShowNumbered(Header(1010, gBlock.gCurrentProcedure) + Question(), Severity::question,
-                                     Number, BoxStyle::yesNo) != BoxAnswer::yes;
+            otherwise = ShowNumbered(Header(Message::warningHeader, gBlock.gCurrentProcedure) + Question(),
+                                     Severity::question, Number, BoxStyle::yesNo) != BoxAnswer::yes;
             break;
     }
-    return static_cast<FailureAction>(otherwise ? policy->otherwise : policy->answer);
+    return otherwise ? policy->otherwise : policy->answer;
 }
 
 void clsExceptionHandler::MercyfulExit(std::string_view ProcedureName, std::int16_t Number,
                                        const std::string& Description) {
-    ShowNumbered(Header(1040, ProcedureName) + Body(Description), Severity::critical, Number,
-                 BoxStyle::okCancel);
+    ShowNumbered(Header(Message::unknownFailureHeader, ProcedureName) + Body(Description), Severity::critical,
+                 Number, BoxStyle::okCancel);
     throw RunEnd{RunEnding::unknownFailure, Number};
 }
 

@@ -5,23 +5,10 @@
 #include <string_view>
 
 #include "platform/MessageBox.h"
+#include "run/FailurePolicy.h"
 #include "run/Frame.h"
 
 namespace wxbrg {
-
-/// The severities: the icon of a message box, the letter of a message number, the level of a note.
-namespace Severity {
-inline constexpr std::int16_t critical = 16;
-inline constexpr std::int16_t question = 32;
-inline constexpr std::int16_t exclamation = 48;
-inline constexpr std::int16_t information = 64;
-}  // namespace Severity
-
-/// Failure numbers that questions, not failures, stand behind.
-namespace CancelNumber {
-inline constexpr std::int32_t optionsForm = 999;
-inline constexpr std::int32_t fileDialog = 32755;
-}  // namespace CancelNumber
 
 /// Decides by a failure's number what the user sees and whether the run goes on. It has no frames of its own,
 /// for its boxes print `gCurrentProcedure` as the failing procedure left it.

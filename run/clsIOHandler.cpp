@@ -25,7 +25,7 @@ FileAccess AccessOf(std::int16_t mode) {
         case FileMode::append:
             return FileAccess::append;
         default:
-            Fail(2000, std::to_string(mode));
+            Fail(Message::unknownFileMode, std::to_string(mode));
     }
 }
 

@@ -186,11 +186,11 @@ TEST_F(IsRelatedTest, FailuresBehindAPositiveAnswerAreToldUnderItsName) {
     EXPECT_EQ(EndOf([&] {
                   Procedure("modTest.Caller", [&](Frame& frame) {
                       IsRelated(start, end);
-                      frame.Raise(2120, "a");
+                      frame.Raise(Message::objectOfWrongKind, "a", "b", "c");
                   });
               }),
               2120);
-    EXPECT_THAT(Boxes(), ElementsAre("C2120 in " + std::string(isRelated) + ": a"));
+    EXPECT_THAT(Boxes(), ElementsAre("C2120 in " + std::string(isRelated) + ": a|b|c"));
 }
 
 TEST_F(IsRelatedTest, TheNameGoesWithTheFrameOfTheCaller) {

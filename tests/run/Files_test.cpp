@@ -250,11 +250,11 @@ TEST_F(FilesTest, ALineOfTheLogIsAppendedToTheLogAlone) {
 
 TEST_F(FilesTest, ANoteIsWrittenToTheLogAtOnceAndCounted) {
     gBlock.gIOHandler->sLogFileName = "out.log";
-    WriteNote(Severity::information, 3050, "Order", "EPC");
-    EXPECT_EQ(Bytes("out.log"), "WXB03050I 3050|Order|EPC|%3$s|%4$s\r\n");
-    WriteNote(Severity::exclamation, 3120, "Order");
+    WriteNote(Message::furtherModel, "Order", "EPC");
+    EXPECT_EQ(Bytes("out.log"), "WXB03020I 3020|Order|EPC|%3$s|%4$s\r\n");
+    WriteNote(Message::severalDataCompared, "Order");
     EXPECT_EQ(Bytes("out.log"),
-              "WXB03050I 3050|Order|EPC|%3$s|%4$s\r\nWXB03120E 3120|Order|%2$s|%3$s|%4$s\r\n");
+              "WXB03020I 3020|Order|EPC|%3$s|%4$s\r\nWXB03120E 3120|Order|%2$s|%3$s|%4$s\r\n");
     EXPECT_EQ(gBlock.gRunReport.notes.information, 1);
     EXPECT_EQ(gBlock.gRunReport.notes.exclamation, 1);
     EXPECT_EQ(gBlock.gRunReport.notes.critical, 0);
@@ -262,7 +262,7 @@ TEST_F(FilesTest, ANoteIsWrittenToTheLogAtOnceAndCounted) {
 
 TEST_F(FilesTest, ANoteWhoseTextIsMissingTakesTwoLinesOfTheLog) {
     gBlock.gIOHandler->sLogFileName = "out.log";
-    WriteNote(Severity::information, 3999, "Order");
+    WriteNoteLine(3999, Severity::information, {"Order"});
     EXPECT_EQ(Bytes("out.log"), "WXB03999I Error :\r\nThe Resource ID '3999' was not found\r\n");
 }
 
@@ -271,7 +271,7 @@ TEST_F(FilesTest, ALogThatCannotBeWrittenEndsTheRunAndTheNoteIsNotCounted) {
     fileSystem_.MakeFail("out.log", Step::write, FailureKind::diskFull);
     ExpectUnknownFailure(
         [](Frame&) {
-            WriteNote(Severity::information, 3050, "Order");
+            WriteNote(Message::processCreated, "Order");
         },
         61, "clsIOHandler.WriteFile", "disk full: out.log");
     EXPECT_EQ(gBlock.gRunReport.notes.information, 0);

@@ -126,7 +126,7 @@ TEST_F(FrameTailTest, ABoxThatFailsBelongsToTheCallersFrame) {
     messageBox_.nextFailure = Failure(FailureKind::fileAccess, "desktop");
     const auto end = RunIn("test.Outer", [](Frame&) {
         Procedure("test.Inner", [](Frame& frame) {
-            frame.Raise(2060, "model");
+            frame.Raise(Message::modelLayoutNotConverted, "model");
         });
     });
     EXPECT_THAT(end, EndedRun(RunEnding::unknownFailure, 75));
@@ -137,9 +137,9 @@ TEST_F(FrameTailTest, AFrameIsOutOfItsTailAgainWhenAWarningIsAnswered) {
     bool passed = false;
     const auto end = RunIn("test.Outer", [&](Frame&) {
         Procedure("test.Inner", [&](Frame& frame) {
-            frame.Raise(2060, "model");
+            frame.Raise(Message::modelLayoutNotConverted, "model");
             frame.Step([] {
-                Fail(2050, "object");
+                Fail(Message::ruleDoubled, "rule");
             });
             passed = true;
             throw Failure(FailureKind::objectNotSet);
@@ -148,7 +148,7 @@ TEST_F(FrameTailTest, AFrameIsOutOfItsTailAgainWhenAWarningIsAnswered) {
     EXPECT_THAT(end, EndedRun(RunEnding::unknownFailure, 91));
     EXPECT_TRUE(passed);
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2060, "test.Inner", TestText(2060, {"model"})),
-                                     WarningBox(2050, "test.Inner", TestText(2050, {"object"})),
+                                     WarningBox(2110, "test.Inner", TestText(2110, {"rule"})),
                                      UnknownFailureBox(91, "test.Inner", "object not set")));
 }
 
@@ -169,21 +169,21 @@ TEST_F(FrameTailTest, WithoutAnExceptionHandlerAFailureIsAnErrorThatNamesItself)
 TEST_F(FrameTailTest, AWarningThatReachesAFrameOutsideAStepStopsATestBuild) {
     const auto run = [] {
         Procedure("test.P", [](Frame&) {
-            Fail(2050, "object");
+            Fail(Message::ruleDoubled, "rule");
         });
     };
-    EXPECT_DEATH(run(), "warning 2050 reached the frame of test.P outside a step");
+    EXPECT_DEATH(run(), "warning 2110 reached the frame of test.P outside a step");
 }
 
 #else
 
 TEST_F(FrameTailTest, AWarningThatReachesAFrameOutsideAStepEndsTheRunAsAnUnknownFailure) {
     const auto end = RunIn("test.P", [](Frame&) {
-        Fail(2050, "object");
+        Fail(Message::ruleDoubled, "rule");
     });
-    EXPECT_THAT(end, EndedRun(RunEnding::unknownFailure, 2050));
-    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2050, "test.P", TestText(2050, {"object"})),
-                                     UnknownFailureBox(2050, "test.P", TestText(2050, {"object"}))));
+    EXPECT_THAT(end, EndedRun(RunEnding::unknownFailure, 2110));
+    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2110, "test.P", TestText(2110, {"rule"})),
+                                     UnknownFailureBox(2110, "test.P", TestText(2110, {"rule"}))));
 }
 
 #endif

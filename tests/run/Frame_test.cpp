@@ -69,7 +69,7 @@ TEST_F(FrameTest, KeepNameLeavesTheProceduresNameAtTheNormalEnd) {
 TEST_F(FrameTest, AFailingWayOutKeepsTheInnermostName) {
     const auto end = RunIn("test.Outer", [](Frame&) {
         Procedure("test.Inner", [](Frame& frame) {
-            frame.Raise(2100, "rule");
+            frame.Raise(Message::ruleMissing, "rule");
         });
     });
     EXPECT_THAT(end, EndedRun(RunEnding::endedByFailure, 2100));
@@ -92,7 +92,7 @@ TEST_F(FrameTest, RaisingAWarningShowsItAndGoesOnBehindIt) {
     std::string steps;
     const auto end = RunIn("test.P", [&](Frame& frame) {
         steps += "before ";
-        frame.Raise(2060, "model");
+        frame.Raise(Message::modelLayoutNotConverted, "model");
         steps += "behind";
     });
     EXPECT_EQ(end, std::nullopt);
@@ -101,21 +101,21 @@ TEST_F(FrameTest, RaisingAWarningShowsItAndGoesOnBehindIt) {
     EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2060, "test.P", TestText(2060, {"model"}))));
 }
 
-TEST_F(FrameTest, RaiseDescribesTheNumberWithUpToFourArguments) {
+TEST_F(FrameTest, RaiseDescribesTheMessageWithItsArguments) {
     RunIn("test.P", [](Frame& frame) {
-        frame.Raise(2220, "a", "b", "c", "d");
-        frame.Raise(2220, "a", "", "c");
-        frame.Raise(2220);
+        frame.Raise(Message::unknownNameKind, "a", std::string("b"));
+        frame.Raise(Message::unknownNameKind, "", "b");
+        frame.Raise(Message::profileOdd);
     });
-    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2220, "test.P", "2220|a|b|c|d"),
-                                     WarningBox(2220, "test.P", "2220|a|%2$s|%3$s|%4$s"),
+    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2040, "test.P", "2040|a|b|%3$s|%4$s"),
+                                     WarningBox(2040, "test.P", "2040|%1$s|%2$s|%3$s|%4$s"),
                                      WarningBox(2220, "test.P", "2220|%1$s|%2$s|%3$s|%4$s")));
 }
 
 TEST_F(FrameTest, RaiseOfANumberThatEndsTheRunDoesNotGoOnBehindIt) {
     bool behind = false;
     const auto end = RunIn("test.P", [&](Frame& frame) {
-        frame.Raise(2010);
+        frame.Raise(Message::arisNotStarted);
         behind = true;
     });
     EXPECT_THAT(end, EndedRun(RunEnding::endedByFailure, 2010));
@@ -185,7 +185,7 @@ TEST_F(FrameTest, AStepIsPassedOverByAWarningAndLeavesItsTargetUntouched) {
     std::string steps;
     const auto end = RunIn("test.P", [&](Frame& frame) {
         const auto convert = []() -> std::string {
-            Fail(2050, "object");
+            Fail(Message::ruleDoubled, "rule");
         };
         frame.Step([&] {
             target = convert();
@@ -195,7 +195,7 @@ TEST_F(FrameTest, AStepIsPassedOverByAWarningAndLeavesItsTargetUntouched) {
     EXPECT_EQ(end, std::nullopt);
     EXPECT_EQ(target, "untouched");
     EXPECT_EQ(steps, "behind");
-    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2050, "test.P", TestText(2050, {"object"}))));
+    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2110, "test.P", TestText(2110, {"rule"}))));
 }
 
 TEST_F(FrameTest, AStepRunsAgainForAsLongAsTheAnswerIsRetry) {
@@ -267,12 +267,12 @@ TEST_F(FrameTest, AStepPassedOverInANamedScopeGoesOnUnderTheScopesNameUntilThePr
     RunIn("test.P", [](Frame& frame) {
         frame.Step([] {
             const NamedScope scope("test.Scope");
-            Fail(2040, "name");
+            Fail(Message::unknownNameKind, "12", "name");
         });
         EXPECT_EQ(gBlock.gCurrentProcedure, "test.Scope");
     });
     EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
-    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2040, "test.Scope", TestText(2040, {"name"}))));
+    EXPECT_THAT(Boxes(), ElementsAre(WarningBox(2040, "test.Scope", TestText(2040, {"12", "name"}))));
 }
 
 TEST_F(FrameTest, MemoryThatRunsOutIsFailure7) {
@@ -319,7 +319,7 @@ TEST_F(FrameTest, AMistakeOfTheProgramPassesThroughFramesAndStepsWithoutABox) {
 
 TEST_F(FrameTest, FailIsAFailureDescribedByItsText) {
     const auto run = [] {
-        Fail(2020, "item");
+        Fail(Message::wrongSelection, "item");
     };
     EXPECT_THAT(run, Throws<Failure>(
                          testing::AllOf(testing::Field(&Failure::Number, 2020),
