@@ -15,6 +15,7 @@
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
 #include "cli/UsageError.h"
+#include "platform/Path.h"
 #include "platform/scripted/OverlayProfileStore.h"
 #include "run/RunExport.h"
 
@@ -32,7 +33,7 @@ std::unique_ptr<CodePage> OpenCodePage(const ExportArguments& given, const ToolE
 
 void RequireOutputApart(const ExportArguments& given) {
     std::error_code error;
-    if (std::filesystem::equivalent(given.output, given.repository.file, error))
+    if (std::filesystem::equivalent(PathOf(given.output), PathOf(given.repository.file), error))
         throw UsageError("The definition file would overwrite the repository " + given.repository.file +
                          "; give another name with -o.");
 }
@@ -50,7 +51,7 @@ ExportSelection Select(const ExportArguments& given, const OpenedRepository& rep
                        const ProcessTypes& inForce) {
     ExportSelection selection;
     selection.user = given.user;
-    selection.database = std::filesystem::path(given.repository.file).stem().string();
+    selection.database = TextOf(PathOf(given.repository.file).stem());
     selection.locale = repository.locale;
     selection.models = ChooseModels({given.models, given.all}, *repository.catalogue, repository.locale,
                                     [&](std::int32_t type) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/Path.h"
 #include "support/Failure.h"
 
 namespace wxbrg::cli {
@@ -50,7 +51,7 @@ FolderFileSystem::FolderFileSystem(FileSystem& files, std::filesystem::path fold
 
 std::unique_ptr<File> FolderFileSystem::Open(const std::string& name, FileAccess access) {
     return Naming(name, [&] {
-        return std::make_unique<NamedFile>(files_.Open((folder_ / name).string(), access), name);
+        return std::make_unique<NamedFile>(files_.Open(TextOf(folder_ / PathOf(name)), access), name);
     });
 }
 

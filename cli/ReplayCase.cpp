@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "cli/UsageError.h"
+#include "platform/Path.h"
 #include "platform/scripted/ScriptLines.h"
 #include "support/Text.h"
 
@@ -27,16 +28,16 @@ std::optional<std::string> ReadText(const fs::path& file) {
     std::error_code error;
     if (!fs::exists(file, error)) return std::nullopt;
     std::ifstream stream(file, std::ios::binary);
-    if (!stream || !fs::is_regular_file(file, error)) throw UsageError(file.string() + " cannot be read.");
+    if (!stream || !fs::is_regular_file(file, error)) throw UsageError(TextOf(file) + " cannot be read.");
     std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
     if (text.starts_with(byteOrderMark)) text.erase(0, byteOrderMark.size());
-    if (!IsUtf8(text)) throw UsageError(file.string() + " is not in UTF-8.");
+    if (!IsUtf8(text)) throw UsageError(TextOf(file) + " is not in UTF-8.");
     return text;
 }
 
 std::string Required(const fs::path& file) {
     std::optional<std::string> text = ReadText(file);
-    if (!text) throw UsageError("The case has no file " + file.string() + ".");
+    if (!text) throw UsageError("The case has no file " + TextOf(file) + ".");
     return *std::move(text);
 }
 
@@ -57,8 +58,8 @@ bool StaysInside(const fs::path& name) {
 std::string ReadAnswers(const fs::path& file) {
     std::string text = ReadText(file).value_or("");
     for (const ScriptLine& line : ScriptLines(text))
-        if (line.text.starts_with(fileAnswer) && !StaysInside(line.text.substr(fileAnswer.size())))
-            throw UsageError(file.string() + ":" + std::to_string(line.number) + ": " +
+        if (line.text.starts_with(fileAnswer) && !StaysInside(PathOf(line.text.substr(fileAnswer.size()))))
+            throw UsageError(TextOf(file) + ":" + std::to_string(line.number) + ": " +
                              std::string(line.text) + " leads out of the folder of the output.");
     return text;
 }
@@ -72,7 +73,7 @@ std::uint32_t ReadCodePage(const fs::path& file, std::uint32_t byDefault) {
     const char* const end = digits.data() + digits.size();
     const auto [parsed, error] = std::from_chars(digits.data(), end, number);
     if (error != std::errc() || parsed != end)
-        throw UsageError(file.string() + " must hold the number of a code page, such as 1252.");
+        throw UsageError(TextOf(file) + " must hold the number of a code page, such as 1252.");
     return number;
 }
 
@@ -80,11 +81,11 @@ std::uint32_t ReadCodePage(const fs::path& file, std::uint32_t byDefault) {
 
 ReplayCase ReadReplayCase(const fs::path& folder) {
     std::error_code error;
-    if (!fs::is_directory(folder, error)) throw UsageError("There is no folder " + folder.string() + ".");
+    if (!fs::is_directory(folder, error)) throw UsageError("There is no folder " + TextOf(folder) + ".");
     ReplayCase read;
     read.repository = folder / "repository.aml";
     if (!fs::exists(read.repository, error))
-        throw UsageError("The case has no file " + read.repository.string() + ".");
+        throw UsageError("The case has no file " + TextOf(read.repository) + ".");
     read.commandLine = ReadCommand(folder / "command");
     read.options = ReadText(folder / "options").value_or("");
     read.machineOptions = ReadText(folder / "machine-options").value_or("");

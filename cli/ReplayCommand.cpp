@@ -14,6 +14,7 @@
 #include "cli/Transcript.h"
 #include "cli/UsageError.h"
 #include "options/OptionTable.h"
+#include "platform/Path.h"
 #include "platform/scripted/AnswerScript.h"
 #include "platform/scripted/MemoryProfileStore.h"
 #include "platform/scripted/NoHelp.h"
@@ -39,7 +40,7 @@ auto ReadPart(const fs::path& file, const Read& read) {
     try {
         return read();
     } catch (const ScriptError& error) {
-        throw UsageError(file.string() + ": " + error.what() + ".");
+        throw UsageError(TextOf(file) + ": " + error.what() + ".");
     }
 }
 
@@ -69,7 +70,7 @@ void MakeOutFolder(const fs::path& out, const fs::path& caseFolder) {
 }
 
 void WriteOptions(const MemoryProfileStore& store, const fs::path& file, FileSystem& files) {
-    const std::unique_ptr<File> opened = files.Open(file.string(), FileAccess::empty);
+    const std::unique_ptr<File> opened = files.Open(TextOf(file), FileAccess::empty);
     opened->Write(store.Dump(ProfileScope::user, programKey));
     opened->Close();
 }
@@ -113,9 +114,9 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
                       .optionsFormView = optionsFormView,
                       .helpViewer = helpViewer,
                       .progress = progress,
-                      .programDirectory = fs::absolute(folder).string(),
+                      .programDirectory = TextOf(fs::absolute(folder)),
                       .programName = profileStem};
-    RepositoryFileAutomation automation(environment.openRepository, ready.given.repository.string());
+    RepositoryFileAutomation automation(environment.openRepository, TextOf(ready.given.repository));
     RunRequest request;
     request.commandLine = ready.given.commandLine;
     return RunExport(request, platform, automation);
@@ -124,13 +125,13 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
 }  // namespace
 
 int RunReplayCommand(const ReplayArguments& given, const ToolEnvironment& environment) {
-    const fs::path folder = given.caseFolder;
-    const fs::path out = given.outFolder;
+    const fs::path folder = PathOf(given.caseFolder);
+    const fs::path out = PathOf(given.outFolder);
     ReadyCase ready = MakeReady(folder, environment);
     MakeOutFolder(out, folder);
     const RunReport report = RunCase(ready, folder, out, environment);
     if (const std::optional<std::string>& error = ready.script.Error())
-        throw UsageError((folder / "answers").string() + ": " + *error + ".");
+        throw UsageError(TextOf(folder / "answers") + ": " + *error + ".");
     TranscribeEnding(report, environment.out);
     TellProgramFailure(report, environment.err);
     WriteOptions(ready.store, out / "options", environment.fileSystem);

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/Path.h"
 #include "support/Text.h"
 
 namespace wxbrg::cli {
@@ -26,7 +27,7 @@ ARISDatabase RepositoryFileAutomation::OpenDatabase(std::string_view server, std
     try {
         catalogue_ = openRepository_(request);
     } catch (const Failure& failure) {
-        const std::string name = std::filesystem::path(file_).filename().string();
+        const std::string name = TextOf(PathOf(file_).filename());
         throw Failure::WithDescription(failure.Number, Replace(failure.Description, file_, name));
     }
     return catalogue_->Application()

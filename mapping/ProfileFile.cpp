@@ -1,12 +1,14 @@
 #include "mapping/ProfileFile.h"
 
+#include "platform/Path.h"
 #include "run/clsIOHandler.h"
 #include "run/modGlobals.h"
 
 namespace wxbrg {
 
 std::string MappingProfilePath(const Platform& platform) {
-    return platform.mappingProfile.value_or(platform.programDirectory + "/" + platform.programName + ".prf");
+    return platform.mappingProfile.value_or(
+        FileInFolder(platform.programDirectory, platform.programName + ".prf"));
 }
 
 ProfileFile ReadProfileFile(Platform& platform) {

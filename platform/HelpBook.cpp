@@ -6,6 +6,8 @@
 #include <fstream>
 #include <system_error>
 
+#include "platform/Path.h"
+
 namespace wxbrg {
 
 namespace {
@@ -61,7 +63,7 @@ void Finish(HelpPage& page) {
 }  // namespace
 
 std::optional<HelpBook> HelpBook::Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     if (!file) return {};
     std::string text;
     std::array<char, 16384> part;

@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/Path.h"
 #include "support/Failure.h"
 
 namespace wxbrg::xml {
@@ -12,15 +13,6 @@ namespace wxbrg::xml {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path PathOf(const std::string& name) {
-    return std::u8string(name.begin(), name.end());
-}
-
-std::string NameOf(const fs::path& path) {
-    const std::u8string name = path.u8string();
-    return {name.begin(), name.end()};
-}
 
 [[noreturn]] void FailToOpen(std::int32_t number, const std::string& name, std::string_view whatToDo) {
     throw Failure(number, name + ". " + std::string(whatToDo));
@@ -75,11 +67,7 @@ std::string ExportFile::ReadAll() {
 }
 
 std::string NameWithoutFolderAndExtension(const std::string& file) {
-    return NameOf(PathOf(file).stem());
-}
-
-std::string FileInFolder(const std::string& folder, const std::string& name) {
-    return folder.empty() ? name : NameOf(PathOf(folder) / PathOf(name));
+    return TextOf(PathOf(file).stem());
 }
 
 }  // namespace wxbrg::xml

@@ -32,7 +32,4 @@ class ExportFile {
 /// The name of a file without folders and without its extension.
 std::string NameWithoutFolderAndExtension(const std::string& file);
 
-/// The name of a file in a folder; an empty folder is the working directory.
-std::string FileInFolder(const std::string& folder, const std::string& name);
-
 }  // namespace wxbrg::xml

@@ -4,8 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "aris/xml/ExportFile.h"
 #include "aris/xml/XmlRepository.h"
+#include "platform/Path.h"
 
 namespace wxbrg {
 
@@ -42,7 +42,7 @@ class XmlAutomation::Files final : public aris::Application, public aris::Report
 XmlAutomation::XmlAutomation(std::string folder, std::string typesFile, aris::LoadProgress progress)
     : XmlAutomation(std::make_unique<Files>(
           [folder = std::move(folder)](std::string_view database) {
-              return xml::FileInFolder(folder, std::string(database) + ".aml");
+              return FileInFolder(folder, std::string(database) + ".aml");
           },
           std::move(typesFile), std::move(progress))) {}
 

@@ -9,6 +9,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/Path.h"
 #include "platform/posix/ChildProcess.h"
 
 namespace wxbrg {
@@ -54,7 +55,7 @@ bool HasDisplay() {
 
 std::variant<Dialogs, NoDesktop> OpenDesktop(const std::string& directory, const DesktopSettings& settings) {
     if (!HasDisplay()) return NoDesktop{"There is no display"};
-    std::variant<Module, NoDesktop> loaded = Load(directory + "/" + moduleName);
+    std::variant<Module, NoDesktop> loaded = Load(FileInFolder(directory, moduleName));
     if (auto* const none = std::get_if<NoDesktop>(&loaded)) return std::move(*none);
     const auto& module = std::get<Module>(loaded);
     if (const std::optional<std::string> failure = FailureInChild(module.probe, longestProbe))

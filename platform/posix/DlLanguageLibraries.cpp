@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "lang/LanguageLibraryAbi.h"
+#include "platform/Path.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -43,7 +44,7 @@ DlLanguageLibraries::DlLanguageLibraries(std::string directory) : directory_(std
 std::unique_ptr<LanguageLibrary> DlLanguageLibraries::Load(std::string_view fileName) {
     using namespace LanguageLibraryAbi;
     if (fileName.find('/') != std::string_view::npos) return nullptr;
-    const std::string path = directory_ + "/" + std::string(fileName);
+    const std::string path = FileInFolder(directory_, fileName);
     SharedLibrary library(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL), dlclose);
     if (!library) return nullptr;
     auto* const versionOf = FindFunction<VersionFunction>(library, versionFunctionName);

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Path.h"
 #include "platform/posix/LockedFileUpdate.h"
 #include "platform/posix/RegistryText.h"
 
@@ -23,7 +24,7 @@ std::string FullKey(std::string_view root, std::string_view key) {
 
 std::filesystem::path EnvironmentPath(const char* name) {
     const char* const value = std::getenv(name);
-    return value == nullptr ? std::filesystem::path() : std::filesystem::path(value);
+    return value == nullptr ? std::filesystem::path() : PathOf(value);
 }
 
 /// The user's home folder: what the environment says, else what the system knows; empty for none.
@@ -33,7 +34,7 @@ std::filesystem::path HomeFolder() {
     passwd* found = nullptr;
     std::vector<char> room(16384);
     if (getpwuid_r(getuid(), &entry, room.data(), room.size(), &found) != 0 || found == nullptr) return {};
-    return found->pw_dir;
+    return PathOf(found->pw_dir);
 }
 
 /// The folder of the user's settings; empty for none. A relative one is ignored, as the environment's

@@ -2,11 +2,13 @@
 
 #include <filesystem>
 
+#include "platform/Path.h"
+
 namespace wxbrg {
 
 ProgramLocation RunningProgram() {
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
-    return {program.parent_path().string(), program.stem().string()};
+    return {TextOf(program.parent_path()), TextOf(program.stem())};
 }
 
 }  // namespace wxbrg

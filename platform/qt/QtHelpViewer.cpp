@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "platform/Path.h"
 #include "platform/qt/HelpWindow.h"
 #include "platform/qt/Session.h"
 
@@ -13,7 +14,7 @@ QtHelpViewer::~QtHelpViewer() {
 
 void QtHelpViewer::ShowPage(std::string_view helpFile, std::int32_t number) {
     OpenSession(language_);
-    const std::string path = directory_ + "/" + std::string(helpFile);
+    const std::string path = FileInFolder(directory_, helpFile);
     if (window_ && window_->Path() != path) delete window_;
     if (!window_) window_ = new HelpWindow(path, QApplication::activeModalWidget());
     window_->ShowPage(number);

@@ -92,7 +92,7 @@ class ProfileRun {
                        .optionsFormView = optionsFormView_,
                        .helpViewer = helpViewer_,
                        .progress = progress_,
-                       .programDirectory = "",
+                       .programDirectory = "/",
                        .programName = "wxbrg"};
 };
 

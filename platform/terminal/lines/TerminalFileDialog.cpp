@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "platform/Path.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -35,8 +36,8 @@ std::optional<std::string> TerminalFileDialog::AskSaveName(const FileDialogSetti
             continue;
         }
         name = WithDefaultExtension(std::move(name), settings.defaultExtension);
-        const std::filesystem::path file = std::filesystem::path(settings.initialDirectory) / name;
-        if (Accept(file, settings.flags)) return file.string();
+        const std::filesystem::path file = PathOf(settings.initialDirectory) / PathOf(name);
+        if (Accept(file, settings.flags)) return TextOf(file);
         if (inputHasEnded_) return std::nullopt;
     }
 }
@@ -44,12 +45,12 @@ std::optional<std::string> TerminalFileDialog::AskSaveName(const FileDialogSetti
 bool TerminalFileDialog::Accept(const std::filesystem::path& file, std::int32_t flags) {
     std::error_code error;
     if (std::filesystem::is_directory(file, error)) {
-        terminal_.Tell(file.string() + " is a folder; please give the name of a file.");
+        terminal_.Tell(TextOf(file) + " is a folder; please give the name of a file.");
         return false;
     }
     const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
     if ((flags & FileDialogFlag::pathMustExist) != 0 && !std::filesystem::is_directory(folder, error)) {
-        terminal_.Tell("There is no folder " + folder.string() + "; please check the name.");
+        terminal_.Tell("There is no folder " + TextOf(folder) + "; please check the name.");
         return false;
     }
     return !std::filesystem::exists(file, error) || AcceptExisting(file, flags);
@@ -57,11 +58,11 @@ bool TerminalFileDialog::Accept(const std::filesystem::path& file, std::int32_t 
 
 bool TerminalFileDialog::AcceptExisting(const std::filesystem::path& file, std::int32_t flags) {
     if ((flags & FileDialogFlag::noReadOnlyReturn) != 0 && !IsWritable(file)) {
-        terminal_.Tell(file.string() + " cannot be written; please choose another name.");
+        terminal_.Tell(TextOf(file) + " cannot be written; please choose another name.");
         return false;
     }
     if ((flags & FileDialogFlag::overwritePrompt) == 0) return true;
-    const std::optional<bool> answer = terminal_.AskYesOrNo(file.string() + " already exists. Replace it?");
+    const std::optional<bool> answer = terminal_.AskYesOrNo(TextOf(file) + " already exists. Replace it?");
     inputHasEnded_ = !answer;
     return answer.value_or(false);
 }

@@ -1,11 +1,11 @@
 #include "platform/terminal/lines/TerminalHelpViewer.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <ostream>
 #include <utility>
 
 #include "platform/HelpBook.h"
+#include "platform/Path.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -58,7 +58,7 @@ TerminalHelpViewer::TerminalHelpViewer(std::ostream& out, std::string folder)
     : out_(out), folder_(std::move(folder)) {}
 
 void TerminalHelpViewer::ShowPage(std::string_view helpFile, std::int32_t number) {
-    const auto book = HelpBook::Read((std::filesystem::path(folder_) / helpFile).string());
+    const auto book = HelpBook::Read(FileInFolder(folder_, helpFile));
     out_ << '\n';
     if (!book)
         out_ << "There is no help: the file " << helpFile << " cannot be read in the folder " << folder_
