@@ -2,24 +2,20 @@
 
 #include <utility>
 
+#include "cli/RunPlatform.h"
+
 namespace wxbrg::cli {
 
 BatchPlatform::BatchPlatform(const ToolEnvironment& environment, BatchSettings setting)
     : messageBox_(setting.told, setting.progress),
       fileDialog_(std::move(setting.output)),
-      platform_{.profileStore = setting.profileStore,
-                .languageLibraries = environment.languageLibraries,
-                .codePage = setting.codePage,
-                .clock = environment.clock,
-                .userLocale = environment.userLocale,
-                .fileSystem = environment.fileSystem,
-                .messageBox = messageBox_,
-                .fileDialog = fileDialog_,
-                .optionsFormView = optionsFormView_,
-                .helpViewer = helpViewer_,
-                .progress = setting.progress,
-                .programDirectory = environment.programDirectory,
-                .programName = environment.programName,
-                .mappingProfile = std::move(setting.mappingProfile)} {}
+      platform_(PlatformOf(environment, {.codePage = setting.codePage,
+                                         .messageBox = messageBox_,
+                                         .fileDialog = fileDialog_,
+                                         .optionsFormView = optionsFormView_,
+                                         .helpViewer = helpViewer_,
+                                         .progress = setting.progress,
+                                         .profileStore = &setting.profileStore,
+                                         .mappingProfile = std::move(setting.mappingProfile)})) {}
 
 }  // namespace wxbrg::cli

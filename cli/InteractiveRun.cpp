@@ -2,6 +2,7 @@
 
 #include "cli/OpenRepository.h"
 #include "cli/RunOutcome.h"
+#include "cli/RunPlatform.h"
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
 #include "run/RunExport.h"
@@ -27,19 +28,12 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
     const Dialogs dialogs = environment.dialogs();
     const std::unique_ptr<aris::Automation> automation = environment.folderAutomation(
         RepositoryFolder(environment.profileStore), TellingOf(*progress, "the database"));
-    Platform platform{.profileStore = environment.profileStore,
-                      .languageLibraries = environment.languageLibraries,
-                      .codePage = *codePage,
-                      .clock = environment.clock,
-                      .userLocale = environment.userLocale,
-                      .fileSystem = environment.fileSystem,
-                      .messageBox = *dialogs.messageBox,
-                      .fileDialog = *dialogs.fileDialog,
-                      .optionsFormView = *dialogs.optionsFormView,
-                      .helpViewer = *dialogs.helpViewer,
-                      .progress = *progress,
-                      .programDirectory = environment.programDirectory,
-                      .programName = environment.programName};
+    Platform platform = PlatformOf(environment, {.codePage = *codePage,
+                                                 .messageBox = *dialogs.messageBox,
+                                                 .fileDialog = *dialogs.fileDialog,
+                                                 .optionsFormView = *dialogs.optionsFormView,
+                                                 .helpViewer = *dialogs.helpViewer,
+                                                 .progress = *progress});
     const RunReport report = RunExport(request, platform, *automation);
     progress->Report({}, 0, 0);
     TellProgramFailure(report, environment.err);

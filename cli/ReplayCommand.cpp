@@ -11,6 +11,7 @@
 #include "cli/ReplayCase.h"
 #include "cli/RepositoryFileAutomation.h"
 #include "cli/RunOutcome.h"
+#include "cli/RunPlatform.h"
 #include "cli/Transcript.h"
 #include "cli/UsageError.h"
 #include "options/OptionTable.h"
@@ -103,19 +104,17 @@ RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
     ScriptedOptionsFormView optionsFormView(ready.script);
     NoHelp helpViewer;
     NoProgress progress;
-    Platform platform{.profileStore = ready.store,
-                      .languageLibraries = environment.languageLibraries,
-                      .codePage = *ready.codePage,
-                      .clock = environment.clock,
-                      .userLocale = userLocale,
-                      .fileSystem = files,
-                      .messageBox = messageBox,
-                      .fileDialog = fileDialog,
-                      .optionsFormView = optionsFormView,
-                      .helpViewer = helpViewer,
-                      .progress = progress,
-                      .programDirectory = TextOf(fs::absolute(folder)),
-                      .programName = profileStem};
+    Platform platform = PlatformOf(environment, {.codePage = *ready.codePage,
+                                                 .messageBox = messageBox,
+                                                 .fileDialog = fileDialog,
+                                                 .optionsFormView = optionsFormView,
+                                                 .helpViewer = helpViewer,
+                                                 .progress = progress,
+                                                 .profileStore = &ready.store,
+                                                 .userLocale = &userLocale,
+                                                 .fileSystem = &files,
+                                                 .programDirectory = TextOf(fs::absolute(folder)),
+                                                 .programName = profileStem});
     RepositoryFileAutomation automation(environment.openRepository, TextOf(ready.given.repository));
     RunRequest request;
     request.commandLine = ready.given.commandLine;
