@@ -1,4 +1,4 @@
-#include "platform/terminal/lines/CharacterLocale.h"
+#include "platform/terminal/form/CharacterLocale.h"
 
 #include <gtest/gtest.h>
 #include <langinfo.h>

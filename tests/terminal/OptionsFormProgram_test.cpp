@@ -7,7 +7,7 @@
 #include "options/FormControls.h"
 #include "platform/HelpBook.h"
 #include "platform/posix/DlLanguageLibraries.h"
-#include "platform/terminal/form/FormCaption.h"
+#include "platform/terminal/lines/FormCaption.h"
 #include "support/Text.h"
 #include "tests/cli/ProgramFixture.h"
 #include "tests/terminal/TmuxTerminal.h"

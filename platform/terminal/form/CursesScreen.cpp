@@ -12,11 +12,11 @@
 #include <optional>
 #include <string>
 
+#include "platform/terminal/form/CharacterLocale.h"
 #include "platform/terminal/form/CursesSignals.h"
 #include "platform/terminal/form/ResizeSignal.h"
 #include "platform/terminal/form/ScreenText.h"
 #include "platform/terminal/form/TerminalAbility.h"
-#include "platform/terminal/lines/CharacterLocale.h"
 
 // Its names meddle with what is included behind it.
 #define NCURSES_NOMACROS 1

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/terminal/form/FormButtons.h"
-#include "platform/terminal/form/FormCaption.h"
+#include "platform/terminal/lines/FormCaption.h"
 #include "support/Text.h"
 
 namespace wxbrg {

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "platform/terminal/form/FormCaption.h"
 #include "platform/terminal/form/ScreenFormLayout.h"
+#include "platform/terminal/lines/FormCaption.h"
 
 namespace wxbrg {
 

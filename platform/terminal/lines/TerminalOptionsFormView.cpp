@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <stdexcept>
 
-#include "platform/terminal/form/FormCaption.h"
+#include "platform/terminal/lines/FormCaption.h"
 #include "support/Text.h"
 
 namespace wxbrg {

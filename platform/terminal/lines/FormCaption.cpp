@@ -1,4 +1,4 @@
-#include "platform/terminal/form/FormCaption.h"
+#include "platform/terminal/lines/FormCaption.h"
 
 #include "support/Text.h"
 
