@@ -1,7 +1,6 @@
 # What every target of this project is compiled with. Warnings are errors where CMAKE_COMPILE_WARNING_AS_ERROR says so,
 # as this project's presets do: another compiler warns of other things, and is to build the program all the same.
 add_library(wxbrg_options_of_compiler INTERFACE)
-target_include_directories(wxbrg_options_of_compiler INTERFACE ${PROJECT_SOURCE_DIR})
 if(MSVC)
   # The sources are UTF-8. Floating point is to give the same numbers on every machine.
   target_compile_options(wxbrg_options_of_compiler INTERFACE /W4 /utf-8 /permissive- /fp:precise)

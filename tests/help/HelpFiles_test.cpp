@@ -12,7 +12,7 @@
 #include "options/FormControls.h"
 #include "platform/HelpBook.h"
 #include "platform/posix/DlLanguageLibraries.h"
-#include "platform/terminal/form/FormCaption.h"
+#include "platform/terminal/lines/FormCaption.h"
 #include "support/Text.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/help/HelpExamples.h"
