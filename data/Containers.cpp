@@ -1,6 +1,7 @@
 #include "data/Containers.h"
 
 #include "data/modDATA_STRUCTURE.h"
+#include "mapping/RelatedObjectSearch.h"
 #include "mapping/RuleLookups.h"
 #include "run/Frame.h"
 

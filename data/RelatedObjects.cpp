@@ -2,40 +2,38 @@
 
 #include <algorithm>
 
-#include "mapping/RuleLookups.h"
-#include "mapping/RuleTable.h"
+#include "mapping/RelatedObjectSearch.h"
 #include "run/Frame.h"
 
 namespace wxbrg {
+
+void RelatedObjects::AddReached(const Collection<ARISObjDef>& objects) {
+    for (const ARISObjDef& object : objects) reached_.insert(std::string(object->Guid()));
+}
 
 bool RelatedObjects::TakeStep(Frame& frame) {
     if (!intermediates_.empty()) {
         const ARISObjDef object = intermediates_.back();
         intermediates_.pop_back();
         Collection<ARISObjDef> ends;
-        for (const ARISObjDef& end : Find_Related_ARIS_ObjDef_Using_Mapping_Rule(ends, object, chained_))
-            reached_.insert(std::string(end->Guid()));
+        AddReached(Find_Related_ARIS_ObjDef_Using_Mapping_Rule(ends, object, chained_));
         return true;
     }
-    if (nextFrom_ > from_.Count()) return false;
-    const ARISObjDef object = from_.Item(nextFrom_);
-    const Collection<clsConnectionMapping>& mappings = FetchRule(frame, rule_)->ColConnectionMapping;
-    if (nextMapping_ > mappings.Count()) {
-        ++nextFrom_;
-        nextMapping_ = 1;
+    if (nextStep_ == steps_.size()) {
+        if (nextFrom_ > from_.Count()) return false;
+        steps_ = StepsOfRule(frame, from_.Item(nextFrom_++), rule_);
+        nextStep_ = 0;
         return true;
     }
-    const clsConnectionMapping& mapping = mappings.Item(nextMapping_++);
-    if (object->TypeNum() != mapping.SourceObjTypeNum) return true;
-    Collection<ARISObjDef> steps;
-    Find_Related_ARIS_ObjDef(steps, object, mapping.CnxKind, mapping.CnxTypeNum, mapping.TargetObjTypeNum);
-    if (mapping.IsChainedConnection()) {
-        for (const ARISObjDef& step : steps) intermediates_.push_back(step);
+    const RuleStep& step = steps_[nextStep_++];
+    const Collection<ARISObjDef> objects = step.Objects();
+    if (step.IsChained()) {
+        for (const ARISObjDef& object : objects) intermediates_.push_back(object);
         std::reverse(intermediates_.begin(), intermediates_.end());
+        chained_ = step.NextRule();
     } else {
-        for (const ARISObjDef& step : steps) reached_.insert(std::string(step->Guid()));
+        AddReached(objects);
     }
-    chained_ = mapping.TargetObjRule;
     return true;
 }
 

@@ -1,13 +1,12 @@
-// The search along a connection rule and its chains.
+#include "mapping/RelatedObjectSearch.h"
 
 #include <algorithm>
 #include <map>
-#include <string_view>
 #include <tuple>
 #include <utility>
 
-#include "mapping/RuleLookups.h"
-#include "mapping/RuleTable.h"
+#include "mapping/DrawnItems.h"
+#include "mapping/RuleSteps.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"
 
@@ -43,34 +42,17 @@ class RelatedSearch {
         if (gBlock.gRelatedSearchDepth >= relatedSearchLimit) Fail(item);
         ++gBlock.gRelatedSearchDepth;
         std::int32_t levels = 1;
-        if (item->OccList().Count() > 0) {
-            const Ref<const clsMappingRule> rule = FetchRule(frame_, ruleName);
-            for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
-                if (item->TypeNum() != mapping.SourceObjTypeNum) continue;
-                if (!mapping.IsChainedConnection())
-                    Step(result_, item, mapping);
+        if (IsDrawn(item)) {
+            for (const RuleStep& step : StepsOfRule(frame_, item, ruleName)) {
+                if (!step.IsChained())
+                    step.AddObjectsTo(result_);
                 else
-                    for (const ARISObjDef& next : Intermediates(item, mapping))
-                        levels = std::max(levels, 1 + Visit(next, mapping.TargetObjRule));
+                    for (const ARISObjDef& next : step.Objects())
+                        levels = std::max(levels, 1 + Visit(next, step.NextRule()));
             }
         }
         --gBlock.gRelatedSearchDepth;
         return levels;
-    }
-
-    static void Step(Collection<ARISObjDef>& into, const ARISObjDef& item,
-                     const clsConnectionMapping& mapping) {
-        Find_Related_ARIS_ObjDef(into, item, mapping.CnxKind, mapping.CnxTypeNum, mapping.TargetObjTypeNum);
-    }
-
-    /// The drawn objects that a chained step leads to.
-    static Collection<ARISObjDef> Intermediates(const ARISObjDef& item, const clsConnectionMapping& mapping) {
-        Collection<ARISObjDef> steps;
-        Step(steps, item, mapping);
-        Collection<ARISObjDef> drawn;
-        for (const ARISObjDef& next : steps)
-            if (next->OccList().Count() > 0) drawn.Add(next);
-        return drawn;
     }
 
     /// Whether a visit at the present depth would go beyond the limit: one that is still under way turns in a
@@ -90,12 +72,10 @@ class RelatedSearch {
 
     std::pair<ARISObjDef, std::string_view> FirstTooDeepBehind(const ARISObjDef& item,
                                                                std::string_view ruleName) {
-        const Ref<const clsMappingRule> rule = FetchRule(frame_, ruleName);
-        for (const clsConnectionMapping& mapping : rule->ColConnectionMapping) {
-            if (item->TypeNum() != mapping.SourceObjTypeNum || !mapping.IsChainedConnection()) continue;
-            for (const ARISObjDef& next : Intermediates(item, mapping))
-                if (IsTooDeep(levels_.at(Key(next->Guid(), mapping.TargetObjRule))))
-                    return {next, mapping.TargetObjRule};
+        for (const RuleStep& step : StepsOfRule(frame_, item, ruleName)) {
+            if (!step.IsChained()) continue;
+            for (const ARISObjDef& next : step.Objects())
+                if (IsTooDeep(levels_.at(Key(next->Guid(), step.NextRule())))) return {next, step.NextRule()};
         }
         throw Failure(FailureKind::invalidCall);
     }
@@ -117,6 +97,34 @@ Collection<ARISObjDef>& Find_Related_ARIS_ObjDef_Using_Mapping_Rule(Collection<A
                                                                     std::string_view ruleName) {
     Procedure("modMappingRule.Find_Related_ARIS_ObjDef_Using_Mapping_Rule", [&](Frame& frame) {
         RelatedSearch(frame, result).Visit(item, ruleName);
+    });
+    return result;
+}
+
+Collection<ARISObjDef>& Find_Related_ARIS_ObjDef(Collection<ARISObjDef>& result, const ARISObjDef& item,
+                                                 std::int32_t cnxKind, std::int32_t cnxTypeNum,
+                                                 std::int32_t targetObjTypeNum) {
+    Procedure("modMappingRule.Find_Related_ARIS_ObjDef", [&](Frame& frame) {
+        if (!IsDrawn(item)) return;
+        const ARISCxnDefList list =
+            item->CxnListFilter(cnxKind, "", gBlock.gLocale, cnxTypeNum, connectionFilterConstant);
+        const std::int16_t last = LastPosition(list);
+        ARISObjDef other;
+        for (std::int32_t i = 0; i <= last; ++i) {
+            const ARISCxnDef connection = list.Get(i);
+            if (!IsDrawn(connection)) continue;
+            switch (cnxKind) {
+                case CxnKind::incoming:
+                    other = connection->SourceObjDef();
+                    break;
+                case CxnKind::outgoing:
+                    other = connection->TargetObjDef();
+                    break;
+                default:
+                    frame.Raise(Message::unknownConnectionKind, std::to_string(cnxKind));
+            }
+            if (other->TypeNum() == targetObjTypeNum && IsDrawn(other)) result.AddNew(other, other->Guid());
+        }
     });
     return result;
 }

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "mapping/RelatingPaths.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsPROCESS.h"

@@ -7,6 +7,7 @@
 
 #include "aris/Repository.h"
 #include "mapping/NameConversion.h"
+#include "mapping/RelatedObjectSearch.h"
 #include "mapping/RuleLookups.h"
 #include "mapping/StringLists.h"
 #include "run/Frame.h"

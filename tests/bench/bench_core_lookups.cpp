@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "mapping/ArisTypes.h"
+#include "mapping/RelatedObjectSearch.h"
+#include "mapping/RelatingPaths.h"
 #include "mapping/RuleLookups.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"

@@ -7,6 +7,8 @@
 #include <string>
 
 #include "mapping/ArisTypes.h"
+#include "mapping/RelatedObjectSearch.h"
+#include "mapping/RelatingPaths.h"
 #include "mapping/RuleLookups.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"

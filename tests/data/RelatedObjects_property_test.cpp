@@ -5,7 +5,7 @@
 #include <random>
 
 #include "data/RelatedObjects.h"
-#include "mapping/RuleLookups.h"
+#include "mapping/RelatingPaths.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "mapping/RuleLookups.h"
 #include "mapping/RuleTable.h"
 #include "tests/fixture/CoreTest.h"
 

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include "mapping/RelatedObjectSearch.h"
+#include "mapping/RelatingPaths.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <random>
 
-#include "mapping/RuleLookups.h"
+#include "mapping/RelatingPaths.h"
 #include "mapping/modPath.h"
 #include "support/Text.h"
 #include "tests/fixture/CoreTest.h"

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "mapping/RuleLookups.h"
+#include "mapping/RelatingPaths.h"
 #include "mapping/modPath.h"
 #include "platform/RunStack.h"
 #include "tests/fixture/CoreTest.h"

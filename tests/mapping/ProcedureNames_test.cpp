@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "mapping/NameConversion.h"
+#include "mapping/RelatedObjectSearch.h"
+#include "mapping/RelatingPaths.h"
 #include "mapping/RuleLookups.h"
 #include "mapping/RuleTable.h"
 #include "mapping/StringLists.h"

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "mapping/RuleLookups.h"
 #include "mapping/RuleTable.h"
 #include "support/Text.h"
 #include "tests/mapping/ProfileFixture.h"

@@ -6,7 +6,7 @@
 #include <random>
 #include <utility>
 
-#include "mapping/RuleLookups.h"
+#include "mapping/RelatedObjectSearch.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

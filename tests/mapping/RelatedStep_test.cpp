@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "mapping/RuleLookups.h"
+#include "mapping/RelatedObjectSearch.h"
 #include "tests/fixture/CoreTest.h"
 
 namespace wxbrg::test {

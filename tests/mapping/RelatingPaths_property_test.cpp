@@ -5,7 +5,8 @@
 #include <algorithm>
 #include <random>
 
-#include "mapping/RuleLookups.h"
+#include "mapping/RelatedObjectSearch.h"
+#include "mapping/RelatingPaths.h"
 #include "mapping/RuleTable.h"
 #include "mapping/modPath.h"
 #include "tests/fixture/CoreTest.h"
