@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
+#include <utility>
 
 #include "mapping/ArisTypes.h"
 #include "mapping/RuleLookups.h"
@@ -18,57 +18,24 @@ namespace wxbrg {
 
 namespace {
 
-constexpr std::size_t nameLength = 32;
-
-constexpr auto lineBreaksAndTab = std::to_array<std::string_view>({"\r", "\n", "\t"});
-constexpr auto tab = std::to_array<std::string_view>({"\t"});
-/// Characters that a person identifier cannot hold.
-constexpr auto personCharacters =
-    std::to_array<std::string_view>({"@", "<", ">", "[", "]", "\\", "\"", ";", "\r", "\n", "\t"});
-/// Characters that a process name cannot hold.
-constexpr auto processCharacters = std::to_array<std::string_view>({"*", "?", "\"", ";", ":", ".", "$"});
-/// Characters and words that the output keeps for itself, in the order in which they are replaced.
-constexpr auto reserved = std::to_array<std::string_view>(
-    {"!",     "'",   "[",   "]",    "*",  "+",      ",",     "-",     ".",      ";",      "/",
-     ":",     "<",   "=",   ">",    "(",  ")",      "\\",    "^",     "\"",     "AND",    "IS",
-     "LOWER", "MOD", "NOT", "NULL", "OR", "SUBSTR", "UPPER", "VALUE", "_BLOCK", "_STRUCT"});
-
-std::string ReplaceEach(std::string text, std::span<const std::string_view> what, std::string_view by) {
+std::string ReplaceEach(std::string text, NameParts what, std::string_view by) {
     for (const std::string_view one : what) text = Replace(text, one, by);
     return text;
 }
 
-std::string ShortName(std::string_view text) {
-    return std::string(Left(CollapseBlanks(text), nameLength));
+std::string_view WithoutDomain(std::string_view login) {
+    const std::size_t at = login.rfind('@');
+    return at != std::string_view::npos && at > 0 ? login.substr(0, at) : login;
 }
 
-std::string ObjectNameText(std::string_view text) {
-    if (text.empty()) Fail(Message::nameMissing);
-    return ShortName(Replace(ReplaceEach(std::string(text), lineBreaksAndTab, " "), ".", "_"));
-}
-
-std::string PersonIdText(std::string_view text, std::int32_t attribute) {
-    if (attribute == AttributeType::login) {
-        const std::size_t at = text.rfind('@');
-        if (at != std::string_view::npos && at > 0) text = text.substr(0, at);
-    }
-    const std::string upper = UpperCase(ReplaceEach(std::string(text), personCharacters, "_"));
-    return std::string(Left(Replace(upper, " ", "_"), nameLength));
-}
-
-std::string IdentifierText(std::string_view text) {
-    std::string name = ReplaceEach(std::string(text), reserved, "_");
-    if (!name.empty() && name.front() >= '0' && name.front() <= '9') {
-        constexpr std::string_view mark = "sChar";
-        const std::size_t found = name.find(mark);
-        if (found != std::string::npos) name.replace(found, mark.size(), "_");
-    }
-    return ShortName(ReplaceEach(std::move(name), lineBreaksAndTab, "_"));
-}
-
-std::string MemberNameText(std::string_view text, std::string_view ruleName) {
-    if (text.starts_with('_')) text.remove_prefix(1);
-    return ConvertARISName(text, NameKind::identifier, ruleName);
+/// A name that begins with a digit keeps it, and loses the first "sChar" instead. Odd as that is, names in
+/// definitions that exist were made so.
+std::string WithoutMarkBehindDigit(std::string name) {
+    if (name.empty() || name.front() < '0' || name.front() > '9') return name;
+    constexpr std::string_view mark = "sChar";
+    const std::size_t found = name.find(mark);
+    if (found != std::string::npos) name.replace(found, mark.size(), "_");
+    return name;
 }
 
 /// A domain type's name and the data type that it becomes.
@@ -97,28 +64,42 @@ std::string DataTypeText(std::string_view text) {
     return "STRING";
 }
 
-/// What the kind does to a text, before the steps that all kinds share.
-std::string ConvertByKind(std::string_view text, std::string_view kind, std::string_view ruleName,
+const NameKindRow& RowOf(NameKind kind, std::string_view text) {
+    for (const NameKindRow& row : nameKinds::rows)
+        if (row.kind == kind) return row;
+    Fail(Message::unknownNameKind, std::to_string(static_cast<std::int32_t>(kind)), text);
+}
+
+/// What the kind does to a text, before the steps that all kinds share. `attribute` is where the text was
+/// read.
+std::string ConvertByKind(std::string_view text, NameKind kind, std::string_view ruleName,
                           std::int32_t attribute) {
-    constexpr std::size_t descriptionLength = 254;
-    constexpr std::size_t documentationLength = 4096;
-    std::string plain(text);
-    if (kind == NameKind::activityName) return ConvertARISName(text, NameKind::identifier, ruleName);
-    if (kind == NameKind::description)
-        return std::string(Left(ReplaceEach(std::move(plain), tab, " "), descriptionLength));
-    if (kind == NameKind::documentation)
-        return std::string(Left(ReplaceEach(std::move(plain), tab, " "), documentationLength));
-    if (kind == NameKind::memberName) return MemberNameText(text, ruleName);
-    if (kind == NameKind::personField)
-        return std::string(Left(ReplaceEach(std::move(plain), lineBreaksAndTab, " "), nameLength));
-    if (kind == NameKind::objectName) return ObjectNameText(text);
-    if (kind == NameKind::personId) return PersonIdText(text, attribute);
-    if (kind == NameKind::processName)
-        return ShortName(ReplaceEach(std::move(plain), processCharacters, "_"));
-    if (kind == NameKind::identifier) return IdentifierText(text);
-    if (kind == NameKind::compareOperator) return Replace(text, "!=", "<>");
-    if (kind == NameKind::dataType) return DataTypeText(text);
-    Fail(Message::unknownNameKind, kind, text);
+    const NameKindRow& row = RowOf(kind, text);
+    if (row.extra == NameExtra::mustNotBeEmpty && text.empty()) Fail(Message::nameMissing);
+    if (row.extra == NameExtra::login && attribute == AttributeType::login) text = WithoutDomain(text);
+    if (row.extra == NameExtra::asIdentifierBehind && text.starts_with('_')) text.remove_prefix(1);
+    std::string name = ReplaceEach(ReplaceEach(std::string(text), row.blanked, " "), row.underscored, "_");
+    switch (row.extra) {
+        case NameExtra::asIdentifier:
+        case NameExtra::asIdentifierBehind:
+            return ConvertARISName(name, NameKind::identifier, ruleName);
+        case NameExtra::login:
+            name = UpperCase(name);
+            break;
+        case NameExtra::digitInFront:
+            name = WithoutMarkBehindDigit(std::move(name));
+            break;
+        case NameExtra::unequalSign:
+            name = Replace(name, "!=", "<>");
+            break;
+        case NameExtra::typeWord:
+            return DataTypeText(name);
+        case NameExtra::none:
+        case NameExtra::mustNotBeEmpty:
+            break;
+    }
+    if (row.collapsesBlanks) name = CollapseBlanks(name);
+    return std::string(Left(name, row.length));
 }
 
 /// The attribute of a rule that the caller has just read with success; 0 without a rule.
@@ -132,7 +113,7 @@ std::int32_t AttributeOfRule(std::string_view ruleName) {
 
 }  // namespace
 
-std::string ConvertARISName(std::string_view text, std::string_view kind, std::string_view ruleName) {
+std::string ConvertARISName(std::string_view text, NameKind kind, std::string_view ruleName) {
     const NamedScope scope("modMappingRule.ConvertARISName");
     const std::int32_t attribute = AttributeOfRule(ruleName);
     std::string converted(text);

@@ -31,7 +31,7 @@ void NoteFurtherIgnored(const Collection<ARISObjDef>& related, std::string_view 
         WriteNote(Message::furtherObject, related.Item(i)->Name(gBlock.gLocale), related.Item(i)->Type());
 }
 
-void SetupText(std::string_view procedure, std::string& property, bool gate, std::string_view nameKind,
+void SetupText(std::string_view procedure, std::string& property, bool gate, NameKind nameKind,
                const ARISObjDef& item, std::string_view rule) {
     SetupText(procedure, property, gate, nameKind, [&] {
         return Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(item, rule);

@@ -118,8 +118,7 @@ void SetupOnce(std::string_view procedure, bool& finished, std::string_view kind
 /// Fills a text property: the text that `read` gives, converted and quoted; an empty text leaves the property
 /// as it is. Nothing is read with the gate shut.
 template <class Read>
-void SetupText(std::string_view procedure, std::string& property, bool gate, std::string_view nameKind,
-               Read&& read) {
+void SetupText(std::string_view procedure, std::string& property, bool gate, NameKind nameKind, Read&& read) {
     Procedure(procedure, [&](Frame&) {
         if (!gate) return;
         const std::string text = read();
@@ -138,7 +137,7 @@ void SetupSettings(std::string_view procedure, std::string& property, Read&& rea
 }
 
 /// The same two for the attribute of a rule on an object definition.
-void SetupText(std::string_view procedure, std::string& property, bool gate, std::string_view nameKind,
+void SetupText(std::string_view procedure, std::string& property, bool gate, NameKind nameKind,
                const ARISObjDef& item, std::string_view rule);
 void SetupSettings(std::string_view procedure, std::string& property, const ARISObjDef& item,
                    std::string_view rule);

@@ -15,8 +15,7 @@ class NameConversionTest : public CoreTest {
   protected:
     /// Converts as a procedure does that passes over the statement for which a warning is given. Returns what
     /// its variable holds then.
-    static std::string ConvertInStep(std::string text, std::string_view kind,
-                                     std::string_view ruleName = "") {
+    static std::string ConvertInStep(std::string text, NameKind kind, std::string_view ruleName = "") {
         Procedure("modTest.Caller", [&](Frame& frame) {
             frame.Step([&] {
                 text = ConvertARISName(text, kind, ruleName);
@@ -30,65 +29,66 @@ class NameConversionTest : public CoreTest {
 };
 
 TEST_F(NameConversionTest, AChangeIsNotedWithTheTextBeforeAndBehindIt) {
-    EXPECT_EQ(ConvertARISName("No. 5", "6", ""), "No_ 5");
+    EXPECT_EQ(ConvertARISName("No. 5", NameKind::objectName, ""), "No_ 5");
     EXPECT_THAT(Notes(), ElementsAre("I3100|No. 5|No_ 5"));
     EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
 
 TEST_F(NameConversionTest, ATextThatStaysIsNotNoted) {
-    EXPECT_EQ(ConvertARISName("Order", "6", ""), "Order");
-    EXPECT_EQ(ConvertARISName("", "2", ""), "");
+    EXPECT_EQ(ConvertARISName("Order", NameKind::objectName, ""), "Order");
+    EXPECT_EQ(ConvertARISName("", NameKind::description, ""), "");
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
 TEST_F(NameConversionTest, ATextThatBecomesEmptyIsNotedWithoutTheSecond) {
-    EXPECT_EQ(ConvertARISName("  ", "6", ""), "");
+    EXPECT_EQ(ConvertARISName("  ", NameKind::objectName, ""), "");
     EXPECT_THAT(Notes(), ElementsAre("I3100|  "));
 }
 
 TEST_F(NameConversionTest, AnActivityNameIsNotedByTheInnerAndTheOuterConversion) {
-    EXPECT_EQ(ConvertARISName("ORDER ", "1", ""), "_DER");
+    EXPECT_EQ(ConvertARISName("ORDER ", NameKind::activityName, ""), "_DER");
     EXPECT_THAT(Notes(), ElementsAre("I3100|ORDER |_DER", "I3100|ORDER |_DER"));
 }
 
 TEST_F(NameConversionTest, TheInnerNoteOfAMemberNameHasTheTextWithoutItsUnderscore) {
-    EXPECT_EQ(ConvertARISName("_ORDER", "4", ""), "_DER");
+    EXPECT_EQ(ConvertARISName("_ORDER", NameKind::memberName, ""), "_DER");
     EXPECT_THAT(Notes(), ElementsAre("I3100|ORDER|_DER", "I3100|_ORDER|_DER"));
     ForgetNotes();
-    EXPECT_EQ(ConvertARISName("_Order", "4", ""), "Order");
+    EXPECT_EQ(ConvertARISName("_Order", NameKind::memberName, ""), "Order");
     EXPECT_THAT(Notes(), ElementsAre("I3100|_Order|Order"));
 }
 
 TEST_F(NameConversionTest, ADataTypeThatChangesItsWordIsNoted) {
-    EXPECT_EQ(ConvertARISName("Real", "11", ""), "FLOAT");
-    EXPECT_EQ(ConvertARISName("LONG", "11", ""), "STRING");
-    EXPECT_EQ(ConvertARISName("STRING", "11", ""), "STRING");
+    EXPECT_EQ(ConvertARISName("Real", NameKind::dataType, ""), "FLOAT");
+    EXPECT_EQ(ConvertARISName("LONG", NameKind::dataType, ""), "STRING");
+    EXPECT_EQ(ConvertARISName("STRING", NameKind::dataType, ""), "STRING");
     EXPECT_THAT(Notes(), ElementsAre("I3100|Real|FLOAT", "I3100|LONG|STRING"));
 }
 
 TEST_F(NameConversionTest, WithTheOptionOffEveryKindGivesTheTextBack) {
     gBlock.gOptConvertNames = false;
-    for (const char* kind : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", ""})
-        EXPECT_EQ(ConvertARISName(" it's != AND.\t", kind, ""), " it's != AND.\t") << kind;
-    EXPECT_EQ(ConvertARISName("", "6", ""), "");
+    for (int kind = 0; kind <= 12; ++kind)
+        EXPECT_EQ(ConvertARISName(" it's != AND.\t", static_cast<NameKind>(kind), ""), " it's != AND.\t")
+            << kind;
+    EXPECT_EQ(ConvertARISName("", NameKind::objectName, ""), "");
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
 TEST_F(NameConversionTest, AKindThatIsNoneIsAWarningAndTheTextStays) {
-    EXPECT_EQ(ConvertInStep("text", "12"), "text");
-    EXPECT_EQ(ConvertInStep("text", "01"), "text");
+    EXPECT_EQ(ConvertInStep("text", static_cast<NameKind>(12)), "text");
+    EXPECT_EQ(ConvertInStep("text", static_cast<NameKind>(0)), "text");
     EXPECT_THAT(Boxes(), ElementsAre("E2040 in modMappingRule.ConvertARISName: 12|text",
-                                     "E2040 in modMappingRule.ConvertARISName: 01|text"));
+                                     "E2040 in modMappingRule.ConvertARISName: 0|text"));
     EXPECT_THAT(Notes(), IsEmpty());
 }
 
 TEST_F(NameConversionTest, AnEmptyObjectNameIsAWarning) {
-    EXPECT_EQ(ConvertInStep("", "6"), "");
+    EXPECT_EQ(ConvertInStep("", NameKind::objectName), "");
     EXPECT_THAT(Boxes(), ElementsAre("E2050 in modMappingRule.ConvertARISName"));
 }
 
 TEST_F(NameConversionTest, ItsNameStaysBehindAWarningUntilTheFrameOfTheCallerEnds) {
-    ConvertInStep("", "6");
+    ConvertInStep("", NameKind::objectName);
     EXPECT_EQ(nameBehindStep, "modMappingRule.ConvertARISName");
     EXPECT_EQ(gBlock.gCurrentProcedure, "modTest.Test");
 }
@@ -96,7 +96,7 @@ TEST_F(NameConversionTest, ItsNameStaysBehindAWarningUntilTheFrameOfTheCallerEnd
 TEST_F(NameConversionTest, AnUnknownRuleIsAMissingKeyInTheCallersFrame) {
     gBlock.gOptConvertNames = false;
     EXPECT_EQ(EndOf([&] {
-                  ConvertInStep("text", "6", "NO_RULE");
+                  ConvertInStep("text", NameKind::objectName, "NO_RULE");
               }),
               FailureKind::invalidCall);
     EXPECT_THAT(Boxes(), ElementsAre("C5 in modMappingRule.ConvertARISName: invalid call or missing key"));
@@ -106,7 +106,7 @@ TEST_F(NameConversionTest, AnUnknownRuleIsAMissingKeyInTheCallersFrame) {
 TEST_F(NameConversionTest, ARuleWithoutANumberIsATypeMismatchWhateverTheKind) {
     NewRule("NO_ATTRIBUTE");
     EXPECT_EQ(EndOf([&] {
-                  ConvertInStep("text", "2", "NO_ATTRIBUTE");
+                  ConvertInStep("text", NameKind::description, "NO_ATTRIBUTE");
               }),
               FailureKind::typeMismatch);
 }
