@@ -37,9 +37,9 @@ std::string BoundaryLayout(const std::string& name, const Collection<ARISObjDef>
 }  // namespace
 
 std::string clsDATA_CONNECTOR::Key() const {
-    if (ConnectorKind == ConnectorKind::processInput)
+    if (ConnectorKind == DataConnectorKind::processInput)
         return std::string("SOURCE/").append(TO_ARISObjectDefinition->Guid());
-    if (ConnectorKind == ConnectorKind::processOutput)
+    if (ConnectorKind == DataConnectorKind::processOutput)
         return std::string(FROM_ARISObjectDefinition->Guid()).append("/SINK");
     return ConnectorKey(FROM_ARISObjectDefinition, TO_ARISObjectDefinition);
 }
@@ -47,7 +47,7 @@ std::string clsDATA_CONNECTOR::Key() const {
 void clsDATA_CONNECTOR::FindARISObjectDefinitionsOnConnectorPaths() {
     // This procedure bears the control connector's name.
     Procedure("clsCONTROL_CONNECTOR.FindARISObjectDefinitionsOnConnectorPaths", [&](Frame&) {
-        if (ConnectorKind != ConnectorKind::activityToActivity) return;
+        if (ConnectorKind != DataConnectorKind::activityToActivity) return;
         ColPath = ConnectorPaths(FROM_ARISObjectDefinition, TO_ARISObjectDefinition,
                                  "FUNCTION_SENDS_DATA_TO_FUNCTION");
         ConnectorPathsAvailable = true;
@@ -61,7 +61,7 @@ void clsDATA_CONNECTOR::SetupProperties() {
         SetupProperty_Linking("");
         SetupProperty_Mapping(nullptr);
         SetupProperty_LAYOUT("");
-        if (ConnectorKind == ConnectorKind::activityToActivity)
+        if (ConnectorKind == DataConnectorKind::activityToActivity)
             WriteNote(Message::propertiesComplete, "DATA CONNECTOR", Linking);
         SetupFinished = true;
     });
@@ -69,20 +69,20 @@ void clsDATA_CONNECTOR::SetupProperties() {
 
 void clsDATA_CONNECTOR::SetupProperty_Linking(const std::string& Name) {
     Procedure("clsDATA_CONNECTOR.SetupProperty_Linking", [&](Frame&) {
-        if (ConnectorKind == ConnectorKind::activityToActivity)
+        if (ConnectorKind == DataConnectorKind::activityToActivity)
             Linking = IsLoopConnector() ? "LOOP " + CitedName(TO_ARISObjectDefinition)
                                         : FromToText(FROM_ARISObjectDefinition, TO_ARISObjectDefinition);
-        else if (ConnectorKind == ConnectorKind::processInput && !Name.empty())
+        else if (ConnectorKind == DataConnectorKind::processInput && !Name.empty())
             Linking = "FROM " + Name + " TO " + CitedName(TO_ARISObjectDefinition);
-        else if (ConnectorKind == ConnectorKind::processOutput && !Name.empty())
+        else if (ConnectorKind == DataConnectorKind::processOutput && !Name.empty())
             Linking = "FROM " + CitedName(FROM_ARISObjectDefinition) + " TO " + Name;
     });
 }
 
 void clsDATA_CONNECTOR::SetupProperty_Mapping(const Ref<clsDATA_STRUCTURE>& Structure) {
     Procedure("clsDATA_CONNECTOR.SetupProperty_Mapping", [&](Frame&) {
-        const bool fromProcess = ConnectorKind == ConnectorKind::processInput;
-        const bool toProcess = ConnectorKind == ConnectorKind::processOutput;
+        const bool fromProcess = ConnectorKind == DataConnectorKind::processInput;
+        const bool toProcess = ConnectorKind == DataConnectorKind::processOutput;
         if ((fromProcess || toProcess) && !Structure) return;
         const auto activity = [&](const ARISObjDef& object) {
             return PROCESS->Col_ACTIVITY.Item(object->Guid());
@@ -115,13 +115,13 @@ void clsDATA_CONNECTOR::AddMapping(const clsDATA_STRUCTURE& source, const clsDAT
 
 void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
     Procedure("clsDATA_CONNECTOR.SetupProperty_LAYOUT", [&](Frame& frame) {
-        if (ConnectorKind == ConnectorKind::activityToActivity) {
+        if (ConnectorKind == DataConnectorKind::activityToActivity) {
             if (gBlock.gOptUseDataConBendPoints)
                 AddBendPoint(frame, LAYOUT, ColPath, ConnectorPathsAvailable, FROM_ARISObjectDefinition,
                              TO_ARISObjectDefinition, *PROCESS);
-        } else if (ConnectorKind == ConnectorKind::processInput && !Name.empty()) {
+        } else if (ConnectorKind == DataConnectorKind::processInput && !Name.empty()) {
             SOURCE_LAYOUT = BoundaryLayout(Name, ColInputDataObjects, *PROCESS);
-        } else if (ConnectorKind == ConnectorKind::processOutput && !Name.empty()) {
+        } else if (ConnectorKind == DataConnectorKind::processOutput && !Name.empty()) {
             SINK_LAYOUT = BoundaryLayout(Name, ColOutputDataObjects, *PROCESS);
         }
     });
@@ -129,7 +129,7 @@ void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
 
 void clsDATA_CONNECTOR::SetupProperty_DESCRIPTION() {
     Procedure("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
-        if (ConnectorKind != ConnectorKind::activityToActivity || !gBlock.gOptUseDescriptionAttr) return;
+        if (ConnectorKind != DataConnectorKind::activityToActivity || !gBlock.gOptUseDescriptionAttr) return;
         if (!ConnectorPathsAvailable) {
             frame.Raise(Message::connectorPathsNotKnown);
             return;
@@ -146,7 +146,7 @@ bool clsDATA_CONNECTOR::IsLoopConnector() const {
 
 bool clsDATA_CONNECTOR::IsMemberOfInvalidDataFlowLoop(clsPROCESS& Process) {
     return Procedure("clsDATA_CONNECTOR.IsMemberOfInvalidDataFlowLoop", [&](Frame&) {
-        if (ConnectorKind != ConnectorKind::activityToActivity) return false;
+        if (ConnectorKind != DataConnectorKind::activityToActivity) return false;
         return ClosesLoop(Process.DataFlow, FROM_ARISObjectDefinition, TO_ARISObjectDefinition);
     });
 }

@@ -14,17 +14,18 @@ namespace wxbrg {
 class clsPROCESS;
 
 /// What a data connector joins.
-namespace ConnectorKind {
-inline constexpr std::int32_t activityToActivity = 1;
-inline constexpr std::int32_t processInput = 2;   ///< the input of the process to an activity
-inline constexpr std::int32_t processOutput = 3;  ///< an activity to the output of the process
-}  // namespace ConnectorKind
+enum class DataConnectorKind : std::int32_t {
+    undecided = 0,
+    activityToActivity = 1,
+    processInput = 2,   ///< the input of the process to an activity
+    processOutput = 3,  ///< an activity to the output of the process
+};
 
 /// How a container flows: between two activities, into the process or out of it. A connector at the boundary
 /// of the process is finished by the process, which names it and has its container.
 class clsDATA_CONNECTOR {
   public:
-    std::int32_t ConnectorKind = 0;
+    DataConnectorKind ConnectorKind = DataConnectorKind::undecided;
     ARISObjDef FROM_ARISObjectDefinition;         ///< the sending function; empty for process input
     ARISObjDef TO_ARISObjectDefinition;           ///< the receiving function; empty for process output
     Ref<clsPROCESS> PROCESS;                      ///< which holds the connector

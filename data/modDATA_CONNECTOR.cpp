@@ -22,7 +22,7 @@ constexpr BetweenActivities<clsDATA_CONNECTOR> dataFlow{
 
 void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
     const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
-    connector->ConnectorKind = ConnectorKind::activityToActivity;
+    connector->ConnectorKind = DataConnectorKind::activityToActivity;
     AddBetweenActivities(dataFlow, connector, process, from, to, [&] {
         if (gBlock.gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
             NoteConnector(Message::dataFlowLoop, from, to);
@@ -51,20 +51,20 @@ Collection<ARISObjDef> CrossingObjects(const clsPROCESS& process, const ARISObjD
 
 /// One of the two ways across the boundary of a process.
 struct Boundary {
-    std::int32_t kind;
+    DataConnectorKind kind;
     std::string_view rule;      ///< by which the activity touches the data
     std::string_view otherWay;  ///< by which another activity keeps the data inside
     ARISObjDef clsDATA_CONNECTOR::*end;
     Collection<ARISObjDef> clsDATA_CONNECTOR::*objects;
     Collection<Ref<clsDATA_CONNECTOR>> clsACTIVITY::*heldBy;
 };
-constexpr Boundary input{ConnectorKind::processInput,
+constexpr Boundary input{DataConnectorKind::processInput,
                          "FUNCTION_RECEIVES_DATA",
                          "FUNCTION_SENDS_DATA",
                          &clsDATA_CONNECTOR::TO_ARISObjectDefinition,
                          &clsDATA_CONNECTOR::ColInputDataObjects,
                          &clsACTIVITY::Col_DATA_CONNECTOR_IN};
-constexpr Boundary output{ConnectorKind::processOutput,
+constexpr Boundary output{DataConnectorKind::processOutput,
                           "FUNCTION_SENDS_DATA",
                           "FUNCTION_RECEIVES_DATA",
                           &clsDATA_CONNECTOR::FROM_ARISObjectDefinition,

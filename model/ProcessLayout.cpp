@@ -74,7 +74,7 @@ void clsPROCESS::SetupProperty_WINDOW() {
     });
 }
 
-void clsPROCESS::CollectBoundaryLayouts(Frame& frame, std::int32_t kind,
+void clsPROCESS::CollectBoundaryLayouts(Frame& frame, DataConnectorKind kind,
                                         std::string clsDATA_CONNECTOR::*layout,
                                         Collection<std::string>& layouts) {
     if (!LayoutConversionFinished) {
@@ -87,14 +87,14 @@ void clsPROCESS::CollectBoundaryLayouts(Frame& frame, std::int32_t kind,
 
 void clsPROCESS::SetupProperty_SOURCE() {
     Procedure("clsPROCESS.SetupProperty_SOURCE", [&](Frame& frame) {
-        CollectBoundaryLayouts(frame, ConnectorKind::processInput, &clsDATA_CONNECTOR::SOURCE_LAYOUT,
+        CollectBoundaryLayouts(frame, DataConnectorKind::processInput, &clsDATA_CONNECTOR::SOURCE_LAYOUT,
                                Col_SOURCE);
     });
 }
 
 void clsPROCESS::SetupProperty_SINK() {
     Procedure("clsPROCESS.SetupProperty_SINK", [&](Frame& frame) {
-        CollectBoundaryLayouts(frame, ConnectorKind::processOutput, &clsDATA_CONNECTOR::SINK_LAYOUT,
+        CollectBoundaryLayouts(frame, DataConnectorKind::processOutput, &clsDATA_CONNECTOR::SINK_LAYOUT,
                                Col_SINK);
     });
 }

@@ -39,7 +39,7 @@ void clsPROCESS::SetupProperty_ProcessName() {
 namespace {
 
 /// The data objects of the process's boundary connectors of one kind, each once.
-Collection<ARISObjDef> BoundaryObjects(const clsPROCESS& process, std::int32_t kind,
+Collection<ARISObjDef> BoundaryObjects(const clsPROCESS& process, DataConnectorKind kind,
                                        Collection<ARISObjDef> clsDATA_CONNECTOR::*objects) {
     Collection<ARISObjDef> all;
     for (const Ref<clsDATA_CONNECTOR>& connector : process.Col_DATA_CONNECTOR) {
@@ -53,14 +53,14 @@ Collection<ARISObjDef> BoundaryObjects(const clsPROCESS& process, std::int32_t k
 
 void clsPROCESS::SetupProperty_InputContainer() {
     Procedure("clsPROCESS.SetupProperty_InputContainer", [&](Frame&) {
-        SetupContainer(InputContainer, BoundaryObjects(*this, ConnectorKind::processInput,
+        SetupContainer(InputContainer, BoundaryObjects(*this, DataConnectorKind::processInput,
                                                        &clsDATA_CONNECTOR::ColInputDataObjects));
     });
 }
 
 void clsPROCESS::SetupProperty_OutputContainer() {
     Procedure("clsPROCESS.SetupProperty_OutputContainer", [&](Frame&) {
-        SetupContainer(OutputContainer, BoundaryObjects(*this, ConnectorKind::processOutput,
+        SetupContainer(OutputContainer, BoundaryObjects(*this, DataConnectorKind::processOutput,
                                                         &clsDATA_CONNECTOR::ColOutputDataObjects));
     });
 }
@@ -124,7 +124,7 @@ std::string clsPROCESS::GeneratedDataSinkName() {
     });
 }
 
-void clsPROCESS::FinishBoundaryConnectors(std::int32_t kind, std::string (clsPROCESS::*name)(),
+void clsPROCESS::FinishBoundaryConnectors(DataConnectorKind kind, std::string (clsPROCESS::*name)(),
                                           const Ref<clsDATA_STRUCTURE>& container) {
     for (const Ref<clsDATA_CONNECTOR>& connector : Col_DATA_CONNECTOR) {
         if (connector->ConnectorKind != kind) continue;
@@ -138,14 +138,14 @@ void clsPROCESS::FinishBoundaryConnectors(std::int32_t kind, std::string (clsPRO
 
 void clsPROCESS::SetupPropertiesOfProcessInputConnectors() {
     Procedure("clsPROCESS.SetupPropertiesOfProcessInputConnectors", [&](Frame&) {
-        FinishBoundaryConnectors(ConnectorKind::processInput, &clsPROCESS::GeneratedDataSourceName,
+        FinishBoundaryConnectors(DataConnectorKind::processInput, &clsPROCESS::GeneratedDataSourceName,
                                  InputContainer);
     });
 }
 
 void clsPROCESS::SetupPropertiesOfProcessOutputConnectors() {
     Procedure("clsPROCESS.SetupPropertiesOfProcessOutputConnectors", [&](Frame&) {
-        FinishBoundaryConnectors(ConnectorKind::processOutput, &clsPROCESS::GeneratedDataSinkName,
+        FinishBoundaryConnectors(DataConnectorKind::processOutput, &clsPROCESS::GeneratedDataSinkName,
                                  OutputContainer);
     });
 }

@@ -15,6 +15,7 @@ class Frame;
 class clsACTIVITY;
 class clsCONTROL_CONNECTOR;
 class clsDATA_CONNECTOR;
+enum class DataConnectorKind : std::int32_t;
 
 /// A process: one ARIS model of a process type, with the activities and connectors that it owns. Its window
 /// has a fixed size, into which the layout of the model is scaled.
@@ -89,9 +90,9 @@ class clsPROCESS {
 
   private:
     void FindExtremes();
-    void FinishBoundaryConnectors(std::int32_t kind, std::string (clsPROCESS::*name)(),
+    void FinishBoundaryConnectors(DataConnectorKind kind, std::string (clsPROCESS::*name)(),
                                   const Ref<clsDATA_STRUCTURE>& container);
-    void CollectBoundaryLayouts(Frame& frame, std::int32_t kind, std::string clsDATA_CONNECTOR::*layout,
+    void CollectBoundaryLayouts(Frame& frame, DataConnectorKind kind, std::string clsDATA_CONNECTOR::*layout,
                                 Collection<std::string>& layouts);
 
     std::int32_t nextSource_ = 1;

@@ -24,7 +24,7 @@ class DataConnectorTest : public CoreTest {
         return Drawn(ObjectType::ermAttribute, name, x, y);
     }
     /// A connector of a process that has just its activities.
-    Ref<clsDATA_CONNECTOR> Connector(std::int32_t kind, const ARISObjDef& from, const ARISObjDef& to) {
+    Ref<clsDATA_CONNECTOR> Connector(DataConnectorKind kind, const ARISObjDef& from, const ARISObjDef& to) {
         if (!process) process = ProcessWithActivities();
         const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
         connector->ConnectorKind = kind;
@@ -47,22 +47,25 @@ class DataConnectorTest : public CoreTest {
 };
 
 TEST_F(DataConnectorTest, LinkingNamesTheTwoEnds) {
-    EXPECT_EQ(Linking(Connector(1, a, b), ""), "FROM 'Check order' TO '_DER _new_'");
-    EXPECT_EQ(Linking(Connector(1, b, b), ""), "LOOP '_DER _new_'");
-    EXPECT_EQ(Linking(Connector(2, {}, b), "SOURCE 1"), "FROM SOURCE 1 TO '_DER _new_'");
-    EXPECT_EQ(Linking(Connector(3, a, {}), "SINK 2"), "FROM 'Check order' TO SINK 2");
+    EXPECT_EQ(Linking(Connector(DataConnectorKind::activityToActivity, a, b), ""),
+              "FROM 'Check order' TO '_DER _new_'");
+    EXPECT_EQ(Linking(Connector(DataConnectorKind::activityToActivity, b, b), ""), "LOOP '_DER _new_'");
+    EXPECT_EQ(Linking(Connector(DataConnectorKind::processInput, {}, b), "SOURCE 1"),
+              "FROM SOURCE 1 TO '_DER _new_'");
+    EXPECT_EQ(Linking(Connector(DataConnectorKind::processOutput, a, {}), "SINK 2"),
+              "FROM 'Check order' TO SINK 2");
 }
 
 TEST_F(DataConnectorTest, LinkingAtTheBoundaryNeedsAName) {
-    EXPECT_EQ(Linking(Connector(2, {}, b), ""), "");
-    EXPECT_EQ(Linking(Connector(3, a, {}), ""), "");
+    EXPECT_EQ(Linking(Connector(DataConnectorKind::processInput, {}, b), ""), "");
+    EXPECT_EQ(Linking(Connector(DataConnectorKind::processOutput, a, {}), ""), "");
 }
 
 TEST_F(DataConnectorTest, OneStructureAtBothEndsIsMappedWhole) {
     const Ref<FakeObject> data = Data("d");
     Writes(a, data);
     Reads(b, data);
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), ElementsAre("MAP '_STRUCT' TO '_STRUCT'"));
     EXPECT_EQ(gBlock.gFailureContext, "");
@@ -73,7 +76,7 @@ TEST_F(DataConnectorTest, AMappedSourceGoesIntoTheMemberThatStandsForIt) {
     Writes(a, order);
     Reads(b, order);
     Reads(b, Data("other"));
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), ElementsAre("MAP '_STRUCT' TO 'Order'"));
 }
@@ -83,7 +86,7 @@ TEST_F(DataConnectorTest, AMemberThatStandsForAMappedSinkGoesIntoItWhole) {
     Writes(a, order);
     Writes(a, Data("other"));
     Reads(b, order);
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), ElementsAre("MAP 'Order' TO '_STRUCT'"));
 }
@@ -94,11 +97,11 @@ TEST_F(DataConnectorTest, BetweenTwoMappedStructuresTheReverseRelationIsNotTried
     AddMember(outer, inner);
     Writes(a, outer);
     Reads(b, inner);
-    const Ref<clsDATA_CONNECTOR> down = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> down = Connector(DataConnectorKind::activityToActivity, a, b);
     down->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(down->ColMapping), IsEmpty());
     std::swap(Activity(a)->OutputContainer, Activity(b)->InputContainer);
-    const Ref<clsDATA_CONNECTOR> up = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> up = Connector(DataConnectorKind::activityToActivity, a, b);
     up->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(up->ColMapping), ElementsAre("MAP '_STRUCT' TO 'Inner'"));
 }
@@ -112,7 +115,7 @@ TEST_F(DataConnectorTest, BetweenGeneratedStructuresTheCommonMembersAreMappedInT
     Reads(b, x);
     Reads(b, Data("only read"));
     Reads(b, y);
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), ElementsAre("MAP 'y' TO 'y'", "MAP 'x' TO 'x'"));
     EXPECT_EQ(gBlock.gFailureContext, "");
@@ -121,14 +124,14 @@ TEST_F(DataConnectorTest, BetweenGeneratedStructuresTheCommonMembersAreMappedInT
 TEST_F(DataConnectorTest, GeneratedStructuresWithoutACommonMemberAreNotMapped) {
     Writes(a, Data("x"));
     Reads(b, Data("y"));
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), IsEmpty());
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(DataConnectorTest, DefaultStructuresAreTwoAndHaveNothingInCommon) {
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(connector->ColMapping), IsEmpty());
 }
@@ -138,23 +141,23 @@ TEST_F(DataConnectorTest, AtTheBoundaryTheContainerOfTheProcessIsTheOtherEnd) {
     Reads(b, data);
     Writes(a, data);
     const Ref<clsDATA_STRUCTURE> structure = DATA_STRUCTURE_Generate(ObjectsOf({data, Data("e")}));
-    const Ref<clsDATA_CONNECTOR> entering = Connector(2, {}, b);
+    const Ref<clsDATA_CONNECTOR> entering = Connector(DataConnectorKind::processInput, {}, b);
     entering->SetupProperty_Mapping(structure);
     EXPECT_THAT(TextsOf(entering->ColMapping), ElementsAre("MAP 'd' TO 'd'"));
-    const Ref<clsDATA_CONNECTOR> leaving = Connector(3, a, {});
+    const Ref<clsDATA_CONNECTOR> leaving = Connector(DataConnectorKind::processOutput, a, {});
     leaving->SetupProperty_Mapping(Activity(a)->OutputContainer);
     EXPECT_THAT(TextsOf(leaving->ColMapping), ElementsAre("MAP '_STRUCT' TO '_STRUCT'"));
 }
 
 TEST_F(DataConnectorTest, AtTheBoundaryNothingIsMappedWithoutAContainer) {
-    const Ref<clsDATA_CONNECTOR> entering = Connector(2, {}, b);
+    const Ref<clsDATA_CONNECTOR> entering = Connector(DataConnectorKind::processInput, {}, b);
     Activity(b)->InputContainer = nullptr;
     entering->SetupProperty_Mapping(nullptr);
     EXPECT_THAT(TextsOf(entering->ColMapping), IsEmpty());
 }
 
 TEST_F(DataConnectorTest, TwoEmptyContainersAreTheSameAndOneIsAFailure) {
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     Activity(a)->OutputContainer = nullptr;
     EXPECT_EQ(EndOf([&] {
                   connector->SetupProperty_Mapping(nullptr);
@@ -170,7 +173,7 @@ TEST_F(DataConnectorTest, AnEmptyMemberThatIsFoundIsAFailure) {
     AddMember(self, self);
     Reads(b, self);
     Reads(b, Data("other"));
-    const Ref<clsDATA_CONNECTOR> connector = Connector(2, {}, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::processInput, {}, b);
     const Ref<clsDATA_STRUCTURE> mapped = DATA_STRUCTURE_Add_ARIS_Mapping(self);
     EXPECT_EQ(EndOf([&] {
                   connector->SetupProperty_Mapping(mapped);
@@ -180,8 +183,8 @@ TEST_F(DataConnectorTest, AnEmptyMemberThatIsFoundIsAFailure) {
 }
 
 TEST_F(DataConnectorTest, AnEndThatIsNoActivityEndsTheRun) {
-    const Ref<clsDATA_CONNECTOR> connector =
-        Connector(1, a, DrawnElsewhere(ObjectType::function, "elsewhere"));
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a,
+                                                       DrawnElsewhere(ObjectType::function, "elsewhere"));
     EXPECT_EQ(EndOf([&] {
                   connector->SetupProperty_Mapping(nullptr);
               }),
@@ -197,7 +200,7 @@ TEST_F(DataConnectorTest, TheBendPointIsTheMeanOfTheEndsAndTheDataOnTheFirstPath
         Writes(a, data);
         Reads(b, data);
     }
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->FindARISObjectDefinitionsOnConnectorPaths();
     connector->SetupProperty_LAYOUT("");
     EXPECT_THAT(PathTexts(connector->ColPath), SizeIs(2));
@@ -211,15 +214,15 @@ TEST_F(DataConnectorTest, TheOptionGatesBendPointsButNotSourcesAndSinks) {
     const Ref<FakeObject> data = Data("d", 530, 200);
     Writes(a, data);
     Reads(b, data);
-    const Ref<clsDATA_CONNECTOR> between = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> between = Connector(DataConnectorKind::activityToActivity, a, b);
     between->FindARISObjectDefinitionsOnConnectorPaths();
     between->SetupProperty_LAYOUT("");
     EXPECT_EQ(between->LAYOUT, "");
-    const Ref<clsDATA_CONNECTOR> entering = Connector(2, {}, b);
+    const Ref<clsDATA_CONNECTOR> entering = Connector(DataConnectorKind::processInput, {}, b);
     entering->ColInputDataObjects = ObjectsOf({data});
     entering->SetupProperty_LAYOUT("SOURCE 1");
     EXPECT_EQ(entering->SOURCE_LAYOUT, "SOURCE 1 XPOS 30 YPOS -200");
-    const Ref<clsDATA_CONNECTOR> leaving = Connector(3, a, {});
+    const Ref<clsDATA_CONNECTOR> leaving = Connector(DataConnectorKind::processOutput, a, {});
     leaving->ColOutputDataObjects = ObjectsOf({data});
     leaving->SetupProperty_LAYOUT("SINK 2");
     EXPECT_EQ(leaving->SINK_LAYOUT, "SINK 2 XPOS 30 YPOS -200");
@@ -227,7 +230,7 @@ TEST_F(DataConnectorTest, TheOptionGatesBendPointsButNotSourcesAndSinks) {
 }
 
 TEST_F(DataConnectorTest, SourcesAndSinksDoNotWaitForTheLayout) {
-    const Ref<clsDATA_CONNECTOR> entering = Connector(2, {}, b);
+    const Ref<clsDATA_CONNECTOR> entering = Connector(DataConnectorKind::processInput, {}, b);
     process->LayoutConversionFinished = false;
     entering->ColInputDataObjects = ObjectsOf({Data("d", 500, 0)});
     entering->SetupProperty_LAYOUT("");
@@ -238,7 +241,7 @@ TEST_F(DataConnectorTest, SourcesAndSinksDoNotWaitForTheLayout) {
 }
 
 TEST_F(DataConnectorTest, ABendPointWithoutPathsOrLayoutIsAWarning) {
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_LAYOUT("");
     connector->ConnectorPathsAvailable = true;
     process->LayoutConversionFinished = false;
@@ -253,7 +256,7 @@ TEST_F(DataConnectorTest, TheDescriptionGathersThoseOfTheDataByTheRuleOfControlC
     NewAttributeRule("DATA_CONNECTOR_DESCRIPTION", "4711");
     Writes(a, data);
     Reads(b, data);
-    const Ref<clsDATA_CONNECTOR> connector = Connector(1, a, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::activityToActivity, a, b);
     connector->SetupProperty_DESCRIPTION();
     EXPECT_EQ(connector->DESCRIPTION, "");
     EXPECT_THAT(Boxes(), ElementsAre("E2090 in clsDATA_CONNECTOR.SetupProperty_DESCRIPTION"));
@@ -283,7 +286,7 @@ TEST_F(DataConnectorTest, AConnectorBetweenActivitiesIsFinishedOnceAndNoted) {
 }
 
 TEST_F(DataConnectorTest, AConnectorAtTheBoundaryIsLeftToTheProcess) {
-    const Ref<clsDATA_CONNECTOR> connector = Connector(2, {}, b);
+    const Ref<clsDATA_CONNECTOR> connector = Connector(DataConnectorKind::processInput, {}, b);
     connector->ColInputDataObjects = ObjectsOf({Data("d")->With(9, "what")});
     ForgetNotes();
     connector->SetupProperties();

@@ -27,7 +27,7 @@ class DataConnectorsTest : public CoreTest {
             for (const std::string& name : NamesOf(data)) names += (names.empty() ? "" : ", ") + name;
             return names;
         };
-        return std::to_string(connector.ConnectorKind) + ": " +
+        return std::to_string(static_cast<int>(connector.ConnectorKind)) + ": " +
                end(connector.FROM_ARISObjectDefinition, connector.ColInputDataObjects) + " > " +
                end(connector.TO_ARISObjectDefinition, connector.ColOutputDataObjects);
     }
@@ -269,7 +269,7 @@ TEST_F(DataFlowLoopsTest, AChainAndALoopOfOneFunctionAreNoRing) {
 
 TEST_F(DataFlowLoopsTest, AConnectorAtTheBoundaryIsInNoRing) {
     clsDATA_CONNECTOR connector;
-    connector.ConnectorKind = ConnectorKind::processInput;
+    connector.ConnectorKind = DataConnectorKind::processInput;
     connector.TO_ARISObjectDefinition = a;
     process = ProcessWithActivities();
     EXPECT_FALSE(connector.IsMemberOfInvalidDataFlowLoop(*process));
