@@ -5,26 +5,27 @@
 
 namespace wxbrg {
 
+namespace {
+constexpr KindWords words{"ORGANIZATION", "modORGANIZATION.ORGANIZATION_Find_ARIS_Mapping",
+                          "modORGANIZATION.ORGANIZATION_SetupProperties",
+                          "modORGANIZATION.ORGANIZATION_Create",
+                          "modORGANIZATION.ORGANIZATION_Add_ARIS_Mapping"};
+}  // namespace
+
 void ORGANIZATION_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modORGANIZATION.ORGANIZATION_Find_ARIS_Mapping", ColARISModels, gBlock.gColORGANIZATION,
-              "ORGANIZATION");
+    FindBatch(words, ColARISModels, gBlock.gColORGANIZATION);
 }
 
 void ORGANIZATION_SetupProperties() {
-    SetupBatch("modORGANIZATION.ORGANIZATION_SetupProperties", gBlock.gColORGANIZATION);
+    SetupBatch(words.setup, gBlock.gColORGANIZATION);
 }
 
 void ORGANIZATION_Create(const Collection<ARISModel>& ColARISModels) {
-    Procedure("modORGANIZATION.ORGANIZATION_Create", [&](Frame&) {
-        ORGANIZATION_Find_ARIS_Mapping(ColARISModels);
-        ORGANIZATION_SetupProperties();
-    });
+    CreateBatch(words, ColARISModels, gBlock.gColORGANIZATION);
 }
 
 Ref<clsORGANIZATION> ORGANIZATION_Add_ARIS_Mapping(const ARISObjDef& item) {
-    return AddARISMapping(
-        {"modORGANIZATION.ORGANIZATION_Add_ARIS_Mapping", "ORGANIZATION", "ORGANIZATION", "ORGANIZATION"},
-        item, gBlock.gColORGANIZATION);
+    return AddARISMapping(words.OnDemand(), item, gBlock.gColORGANIZATION);
 }
 
 }  // namespace wxbrg

@@ -5,24 +5,25 @@
 
 namespace wxbrg {
 
+namespace {
+constexpr KindWords words{"PERSON", "modPERSON.PERSON_Find_ARIS_Mapping", "modPERSON.PERSON_SetupProperties",
+                          "modPERSON.PERSON_Create", "modPERSON.PERSON_Add_ARIS_Mapping"};
+}  // namespace
+
 void PERSON_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modPERSON.PERSON_Find_ARIS_Mapping", ColARISModels, gBlock.gColPERSON, "PERSON");
+    FindBatch(words, ColARISModels, gBlock.gColPERSON);
 }
 
 void PERSON_SetupProperties() {
-    SetupBatch("modPERSON.PERSON_SetupProperties", gBlock.gColPERSON);
+    SetupBatch(words.setup, gBlock.gColPERSON);
 }
 
 void PERSON_Create(const Collection<ARISModel>& ColARISModels) {
-    Procedure("modPERSON.PERSON_Create", [&](Frame&) {
-        PERSON_Find_ARIS_Mapping(ColARISModels);
-        PERSON_SetupProperties();
-    });
+    CreateBatch(words, ColARISModels, gBlock.gColPERSON);
 }
 
 Ref<clsPERSON> PERSON_Add_ARIS_Mapping(const ARISObjDef& item) {
-    return AddARISMapping({"modPERSON.PERSON_Add_ARIS_Mapping", "PERSON", "PERSON", "PERSON"}, item,
-                          gBlock.gColPERSON);
+    return AddARISMapping(words.OnDemand(), item, gBlock.gColPERSON);
 }
 
 }  // namespace wxbrg

@@ -5,24 +5,26 @@
 
 namespace wxbrg {
 
+namespace {
+constexpr KindWords words{"PROGRAM", "modPROGRAM.PROGRAM_Find_ARIS_Mapping",
+                          "modPROGRAM.PROGRAM_SetupProperties", "modPROGRAM.PROGRAM_Create",
+                          "modPROGRAM.PROGRAM_Add_ARIS_Mapping"};
+}  // namespace
+
 void PROGRAM_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modPROGRAM.PROGRAM_Find_ARIS_Mapping", ColARISModels, gBlock.gColPROGRAM, "PROGRAM");
+    FindBatch(words, ColARISModels, gBlock.gColPROGRAM);
 }
 
 void PROGRAM_SetupProperties() {
-    SetupBatch("modPROGRAM.PROGRAM_SetupProperties", gBlock.gColPROGRAM);
+    SetupBatch(words.setup, gBlock.gColPROGRAM);
 }
 
 void PROGRAM_Create(const Collection<ARISModel>& ColARISModels) {
-    Procedure("modPROGRAM.PROGRAM_Create", [&](Frame&) {
-        PROGRAM_Find_ARIS_Mapping(ColARISModels);
-        PROGRAM_SetupProperties();
-    });
+    CreateBatch(words, ColARISModels, gBlock.gColPROGRAM);
 }
 
 Ref<clsPROGRAM> PROGRAM_Add_ARIS_Mapping(const ARISObjDef& item) {
-    return AddARISMapping({"modPROGRAM.PROGRAM_Add_ARIS_Mapping", "PROGRAM", "PROGRAM", "PROGRAM"}, item,
-                          gBlock.gColPROGRAM);
+    return AddARISMapping(words.OnDemand(), item, gBlock.gColPROGRAM);
 }
 
 }  // namespace wxbrg

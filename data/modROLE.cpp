@@ -5,23 +5,25 @@
 
 namespace wxbrg {
 
+namespace {
+constexpr KindWords words{"ROLE", "modROLE.ROLE_Find_ARIS_Mapping", "modROLE.ROLE_SetupProperties",
+                          "modROLE.ROLE_Create", "modROLE.ROLE_Add_ARIS_Mapping"};
+}  // namespace
+
 void ROLE_Find_ARIS_Mapping(const Collection<ARISModel>& ColARISModels) {
-    FindBatch("modROLE.ROLE_Find_ARIS_Mapping", ColARISModels, gBlock.gColROLE, "ROLE");
+    FindBatch(words, ColARISModels, gBlock.gColROLE);
 }
 
 void ROLE_SetupProperties() {
-    SetupBatch("modROLE.ROLE_SetupProperties", gBlock.gColROLE);
+    SetupBatch(words.setup, gBlock.gColROLE);
 }
 
 void ROLE_Create(const Collection<ARISModel>& ColARISModels) {
-    Procedure("modROLE.ROLE_Create", [&](Frame&) {
-        ROLE_Find_ARIS_Mapping(ColARISModels);
-        ROLE_SetupProperties();
-    });
+    CreateBatch(words, ColARISModels, gBlock.gColROLE);
 }
 
 Ref<clsROLE> ROLE_Add_ARIS_Mapping(const ARISObjDef& item) {
-    return AddARISMapping({"modROLE.ROLE_Add_ARIS_Mapping", "ROLE", "ROLE", "ROLE"}, item, gBlock.gColROLE);
+    return AddARISMapping(words.OnDemand(), item, gBlock.gColROLE);
 }
 
 }  // namespace wxbrg

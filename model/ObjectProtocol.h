@@ -35,20 +35,41 @@ void NoteMapped(const ARISObjDef& item, std::string_view kind);
 void NoteFurtherIgnored(const Collection<ARISObjDef>& related, std::string_view first,
                         std::string_view second);
 
+// The words of a kind.
+
+/// The words of a kind's creation on demand.
+struct MappingWords {
+    std::string_view procedure;
+    std::string_view rule;           ///< to which the object has to conform
+    std::string_view kind;           ///< in the note 3060
+    std::string_view kindInFailure;  ///< in the failure 2120
+};
+
+/// The words of a kind whose module has the usual four procedures and whose name is that of its rule.
+struct KindWords {
+    std::string_view kind;
+    std::string_view find;  ///< names of the procedures, from here on
+    std::string_view setup;
+    std::string_view create;
+    std::string_view add;
+
+    constexpr MappingWords OnDemand() const { return {add, kind, kind, kind}; }
+};
+
 // A batch.
 
 /// Finds the objects of a kind in the models and registers a new workflow object for each, without filling
-/// it. The kind's name is the name of its rule as well. An object that is registered already stays.
+/// it. An object that is registered already stays, and is noted once more.
 template <class Object>
-void FindBatch(std::string_view procedure, const Collection<ARISModel>& models,
-               Collection<Ref<Object>>& registry, std::string_view kind) {
-    Procedure(procedure, [&](Frame&) {
+void FindBatch(const KindWords& words, const Collection<ARISModel>& models,
+               Collection<Ref<Object>>& registry) {
+    Procedure(words.find, [&](Frame&) {
         Collection<ARISObjDef> found;
-        for (const ARISObjDef& item : Find_ARIS_ObjDef_Using_Mapping_Rule(models, found, kind)) {
+        for (const ARISObjDef& item : Find_ARIS_ObjDef_Using_Mapping_Rule(models, found, words.kind)) {
             const Ref<Object> object = gBlock.gPool.Create<Object>();
             object->ARISObjectDefinition = item;
             registry.AddNew(object, item->Guid());
-            NoteMapped(item, kind);
+            NoteMapped(item, words.kind);
         }
     });
 }
@@ -61,15 +82,17 @@ void SetupBatch(std::string_view procedure, const Collection<Ref<Object>>& regis
     });
 }
 
-// One object on demand.
+/// Finds and fills.
+template <class Object>
+void CreateBatch(const KindWords& words, const Collection<ARISModel>& models,
+                 Collection<Ref<Object>>& registry) {
+    Procedure(words.create, [&](Frame&) {
+        FindBatch(words, models, registry);
+        SetupBatch(words.setup, registry);
+    });
+}
 
-/// The words of a kind's creation on demand.
-struct MappingWords {
-    std::string_view procedure;
-    std::string_view rule;           ///< to which the object has to conform
-    std::string_view kind;           ///< in the note 3060
-    std::string_view kindInFailure;  ///< in the failure 2120
-};
+// One object on demand.
 
 /// The workflow object of an ARIS object: the registered one, finished or not, else a new one, registered and
 /// then filled. An object that does not conform to the kind's rule ends the run with 2120. `prepare` is
