@@ -48,9 +48,7 @@ void clsDATA_CONNECTOR::FindARISObjectDefinitionsOnConnectorPaths() {
     // This procedure bears the control connector's name.
     Procedure("clsCONTROL_CONNECTOR.FindARISObjectDefinitionsOnConnectorPaths", [&](Frame&) {
         if (ConnectorKind != DataConnectorKind::activityToActivity) return;
-        ColPath = ConnectorPaths(FROM_ARISObjectDefinition, TO_ARISObjectDefinition,
-                                 "FUNCTION_SENDS_DATA_TO_FUNCTION");
-        ConnectorPathsAvailable = true;
+        FindConnectorPaths(*this, "FUNCTION_SENDS_DATA_TO_FUNCTION");
     });
 }
 
@@ -116,9 +114,7 @@ void clsDATA_CONNECTOR::AddMapping(const clsDATA_STRUCTURE& source, const clsDAT
 void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
     Procedure("clsDATA_CONNECTOR.SetupProperty_LAYOUT", [&](Frame& frame) {
         if (ConnectorKind == DataConnectorKind::activityToActivity) {
-            if (gBlock.gOptUseDataConBendPoints)
-                AddBendPoint(frame, LAYOUT, ColPath, ConnectorPathsAvailable, FROM_ARISObjectDefinition,
-                             TO_ARISObjectDefinition, *PROCESS);
+            if (gBlock.gOptUseDataConBendPoints) AddConnectorBendPoint(frame, *this);
         } else if (ConnectorKind == DataConnectorKind::processInput && !Name.empty()) {
             SOURCE_LAYOUT = BoundaryLayout(Name, ColInputDataObjects, *PROCESS);
         } else if (ConnectorKind == DataConnectorKind::processOutput && !Name.empty()) {
@@ -128,20 +124,13 @@ void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
 }
 
 void clsDATA_CONNECTOR::SetupProperty_DESCRIPTION() {
-    Procedure("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
-        if (ConnectorKind != DataConnectorKind::activityToActivity || !gBlock.gOptUseDescriptionAttr) return;
-        if (!ConnectorPathsAvailable) {
-            frame.Raise(Message::connectorPathsNotKnown);
-            return;
-        }
-        SetupConnectorDescription(DESCRIPTION, ColPath);
-    });
+    const bool gate = ConnectorKind == DataConnectorKind::activityToActivity && gBlock.gOptUseDescriptionAttr;
+    SetupConnectorDescription("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", *this, gate, 2090);
 }
 
 bool clsDATA_CONNECTOR::IsLoopConnector() const {
-    return Procedure("clsDATA_CONNECTOR.IsLoopConnector", [&](Frame&) {
-        return FROM_ARISObjectDefinition->Guid() == TO_ARISObjectDefinition->Guid();
-    });
+    return JoinsWithItself("clsDATA_CONNECTOR.IsLoopConnector", FROM_ARISObjectDefinition,
+                           TO_ARISObjectDefinition);
 }
 
 bool clsDATA_CONNECTOR::IsMemberOfInvalidDataFlowLoop(clsPROCESS& Process) {

@@ -2,6 +2,7 @@
 
 #include "data/RelatedObjects.h"
 #include "data/clsDATA_CONNECTOR.h"
+#include "mapping/DrawnItems.h"
 #include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsACTIVITY.h"
@@ -12,30 +13,19 @@ namespace wxbrg {
 
 namespace {
 
-bool IsInModel(const ARISObjDef& object, const clsPROCESS& process) {
-    return object->OccListInModel(process.ARIS_Model).Count() > 0;
-}
+constexpr BetweenActivities<clsDATA_CONNECTOR> dataFlow{"FUNCTION_SENDS_DATA_TO_FUNCTION",
+                                                        &clsACTIVITY::Col_DATA_CONNECTOR_IN,
+                                                        &clsACTIVITY::Col_DATA_CONNECTOR_OUT,
+                                                        &clsPROCESS::Col_DATA_CONNECTOR,
+                                                        &clsPROCESS::DataFlow,
+                                                        &clsDATA_CONNECTOR::IsMemberOfInvalidDataFlowLoop,
+                                                        Message::dataConnectorCreated,
+                                                        Message::dataFlowLoop};
 
-constexpr BetweenActivities<clsDATA_CONNECTOR> dataFlow{
-    &clsACTIVITY::Col_DATA_CONNECTOR_IN, &clsACTIVITY::Col_DATA_CONNECTOR_OUT,
-    &clsPROCESS::Col_DATA_CONNECTOR, &clsPROCESS::DataFlow, Message::dataConnectorCreated};
-
-void AddConnector(clsPROCESS& process, const ARISObjDef& from, const ARISObjDef& to) {
+Ref<clsDATA_CONNECTOR> NewConnector(DataConnectorKind kind) {
     const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
-    connector->ConnectorKind = DataConnectorKind::activityToActivity;
-    AddBetweenActivities(dataFlow, connector, process, from, to, [&] {
-        if (gBlock.gOptFindDataFlowLoops && connector->IsMemberOfInvalidDataFlowLoop(process))
-            NoteConnector(Message::dataFlowLoop, from, to);
-    });
-}
-
-void FindConnectorsBetweenActivities(clsPROCESS& process, const Collection<ARISObjDef>& functions) {
-    for (const ARISObjDef& from : functions) {
-        Collection<ARISObjDef> targets;
-        for (const ARISObjDef& to :
-             Find_Related_ARIS_ObjDef_Using_Mapping_Rule(targets, from, "FUNCTION_SENDS_DATA_TO_FUNCTION"))
-            if (IsInModel(to, process)) AddConnector(process, from, to);
-    }
+    connector->ConnectorKind = kind;
+    return connector;
 }
 
 /// The data objects of a function that are drawn in the model and that no function of the process touches the
@@ -45,7 +35,8 @@ Collection<ARISObjDef> CrossingObjects(const clsPROCESS& process, const ARISObjD
     Collection<ARISObjDef> related;
     Collection<ARISObjDef> crossing;
     for (const ARISObjDef& object : Find_Related_ARIS_ObjDef_Using_Mapping_Rule(related, function, rule))
-        if (IsInModel(object, process) && !otherWay.LeadTo(object)) crossing.Add(object, object->Guid());
+        if (IsDrawnIn(object, process.ARIS_Model) && !otherWay.LeadTo(object))
+            crossing.Add(object, object->Guid());
     return crossing;
 }
 
@@ -77,8 +68,7 @@ void FindConnectorsAcross(const Boundary& boundary, clsPROCESS& process,
     for (const ARISObjDef& function : functions) {
         Collection<ARISObjDef> objects = CrossingObjects(process, function, boundary.rule, inside);
         if (objects.IsEmpty()) continue;
-        const Ref<clsDATA_CONNECTOR> connector = gBlock.gPool.Create<clsDATA_CONNECTOR>();
-        connector->ConnectorKind = boundary.kind;
+        const Ref<clsDATA_CONNECTOR> connector = NewConnector(boundary.kind);
         (*connector).*boundary.end = function;
         connector->PROCESS = &process;
         (*connector).*boundary.objects = std::move(objects);
@@ -100,17 +90,16 @@ void DATA_CONNECTOR_Create(clsPROCESS& Process) {
 void DATA_CONNECTOR_Find_ARIS_Mapping(clsPROCESS& Process) {
     Procedure("modDATA_CONNECTOR.DATA_CONNECTOR_Find_ARIS_Mapping", [&](Frame&) {
         const Collection<ARISObjDef> functions = ActivityObjects(Process);
-        FindConnectorsBetweenActivities(Process, functions);
+        FindBetweenActivities(dataFlow, gBlock.gOptFindDataFlowLoops, Process, functions, [] {
+            return NewConnector(DataConnectorKind::activityToActivity);
+        });
         FindConnectorsAcross(input, Process, functions);
         FindConnectorsAcross(output, Process, functions);
     });
 }
 
 void DATA_CONNECTOR_SetupProperties(const clsPROCESS& Process) {
-    Procedure("modDATA_CONNECTOR.DATA_CONNECTOR_SetupProperties", [&](Frame&) {
-        for (const Ref<clsDATA_CONNECTOR>& connector : Process.Col_DATA_CONNECTOR)
-            connector->SetupProperties();
-    });
+    SetupBatch("modDATA_CONNECTOR.DATA_CONNECTOR_SetupProperties", Process.Col_DATA_CONNECTOR);
 }
 
 }  // namespace wxbrg

@@ -32,9 +32,15 @@ PathCollection ConnectorPaths(const ARISObjDef& from, const ARISObjDef& to, std:
     return paths ? std::move(*paths) : PathCollection();
 }
 
-void SetupConnectorDescription(std::string& description, const PathCollection& paths) {
+std::string PathsDescription(const PathCollection& paths) {
     const std::string text = SetupPrintingOfConnectorAttribute(paths, "CONTROL_CONNECTOR_DESCRIPTION");
-    if (!text.empty()) description = Quoted(ConvertARISName(text, NameKind::description, ""));
+    return text.empty() ? std::string() : Quoted(ConvertARISName(text, NameKind::description, ""));
+}
+
+bool JoinsWithItself(std::string_view procedure, const ARISObjDef& from, const ARISObjDef& to) {
+    return Procedure(procedure, [&](Frame&) {
+        return from->Guid() == to->Guid();
+    });
 }
 
 bool ClosesLoop(FlowLoops& flow, const ARISObjDef& from, const ARISObjDef& to) {

@@ -6,7 +6,6 @@
 #include "model/Connectors.h"
 #include "model/ObjectProtocol.h"
 #include "model/clsPROCESS.h"
-#include "model/modPoint.h"
 #include "output/modWPXWriter.h"
 #include "support/Numbers.h"
 
@@ -80,9 +79,7 @@ std::string clsCONTROL_CONNECTOR::Key() const {
 
 void clsCONTROL_CONNECTOR::FindARISObjectDefinitionsOnConnectorPaths() {
     Procedure("clsCONTROL_CONNECTOR.FindARISObjectDefinitionsOnConnectorPaths", [&](Frame&) {
-        ColPath = ConnectorPaths(FROM_ARISObjectDefinition, TO_ARISObjectDefinition,
-                                 "FUNCTION_SENDS_CONTROL_TO_FUNCTION");
-        ConnectorPathsAvailable = true;
+        FindConnectorPaths(*this, "FUNCTION_SENDS_CONTROL_TO_FUNCTION");
     });
 }
 
@@ -96,14 +93,8 @@ void clsCONTROL_CONNECTOR::SetupProperties() {
 }
 
 void clsCONTROL_CONNECTOR::SetupProperty_DESCRIPTION() {
-    Procedure("clsCONTROL_CONNECTOR.SetupProperty_DESCRIPTION", [&](Frame& frame) {
-        if (!gBlock.gOptUseDescriptionAttr) return;
-        if (!ConnectorPathsAvailable) {
-            frame.Raise(Message::controlPathsNotKnown);
-            return;
-        }
-        SetupConnectorDescription(DESCRIPTION, ColPath);
-    });
+    SetupConnectorDescription("clsCONTROL_CONNECTOR.SetupProperty_DESCRIPTION", *this,
+                              gBlock.gOptUseDescriptionAttr, 2080);
 }
 
 void clsCONTROL_CONNECTOR::SetupProperty_Linking() {
@@ -148,16 +139,13 @@ std::string clsCONTROL_CONNECTOR::GetProperty_Condition(std::string_view RuleNam
 
 void clsCONTROL_CONNECTOR::SetupProperty_LAYOUT() {
     Procedure("clsCONTROL_CONNECTOR.SetupProperty_LAYOUT", [&](Frame& frame) {
-        if (gBlock.gOptUseCtrlConBendPoints)
-            AddBendPoint(frame, LAYOUT, ColPath, ConnectorPathsAvailable, FROM_ARISObjectDefinition,
-                         TO_ARISObjectDefinition, *PROCESS);
+        if (gBlock.gOptUseCtrlConBendPoints) AddConnectorBendPoint(frame, *this);
     });
 }
 
 bool clsCONTROL_CONNECTOR::IsLoopConnector() const {
-    return Procedure("clsCONTROL_CONNECTOR.IsLoopConnector", [&](Frame&) {
-        return FROM_ARISObjectDefinition->Guid() == TO_ARISObjectDefinition->Guid();
-    });
+    return JoinsWithItself("clsCONTROL_CONNECTOR.IsLoopConnector", FROM_ARISObjectDefinition,
+                           TO_ARISObjectDefinition);
 }
 
 bool clsCONTROL_CONNECTOR::IsMemberOfInvalidControlFlowLoop(clsPROCESS& Process) {
