@@ -8,6 +8,7 @@
 #include "data/clsPROGRAM.h"
 #include "data/clsROLE.h"
 #include "output/Block.h"
+#include "output/Sections.h"
 #include "output/clsWPXWriter.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"
@@ -15,30 +16,6 @@
 namespace wxbrg {
 
 namespace {
-
-/// A section that writes each object of a registry once. Returns how many.
-template <class Object>
-std::int32_t WriteSection(clsWPXWriter& writer, std::string_view procedure, std::string_view title,
-                          const Collection<Ref<Object>>& registry,
-                          void (clsWPXWriter::*write)(const Object&)) {
-    return Procedure(procedure, [&](Frame&) {
-        writer.WriteSectionHeader(title);
-        for (const Ref<Object>& object : registry) (writer.*write)(*object);
-        return registry.Count();
-    });
-}
-
-/// A section that is written in two passes. Returns how many objects it defined.
-template <class Object>
-std::int32_t WritePass(clsWPXWriter& writer, std::string_view procedure, std::string_view title, bool update,
-                       const Collection<Ref<Object>>& registry,
-                       void (clsWPXWriter::*write)(const Object&, bool)) {
-    return Procedure(procedure, [&](Frame&) {
-        if (!update) writer.WriteSectionHeader(title);
-        for (const Ref<Object>& object : registry) (writer.*write)(*object, update);
-        return update ? 0 : registry.Count();
-    });
-}
 
 /// The UPDATE block of a reference that may point forward; an empty reference leaves an empty line.
 void WriteUpdate(std::string_view keyword, const std::string& name, std::string_view property,
@@ -61,8 +38,8 @@ void AddMember(Block& block, const clsDATA_MEMBER& member) {
 }  // namespace
 
 std::int32_t clsWPXWriter::WriteAllDataStructure() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllDataStructure", "DATA_STRUCTUREs",
-                        gBlock.gColDATA_STRUCTURE, &clsWPXWriter::WriteDataStructure);
+    return WriteEach(*this, "clsWPXWriter.WriteAllDataStructure", "DATA_STRUCTUREs",
+                     gBlock.gColDATA_STRUCTURE, &clsWPXWriter::WriteDataStructure);
 }
 
 void clsWPXWriter::WriteDataStructure(const clsDATA_STRUCTURE& STRUCTURE) {
@@ -76,8 +53,8 @@ void clsWPXWriter::WriteDataStructure(const clsDATA_STRUCTURE& STRUCTURE) {
 }
 
 std::int32_t clsWPXWriter::WriteAllProcessCategory() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllProcessCategory", "PROCESS_CATEGORYs",
-                        gBlock.gColPROCESS_CATEGORY, &clsWPXWriter::WriteProcessCategory);
+    return WriteEach(*this, "clsWPXWriter.WriteAllProcessCategory", "PROCESS_CATEGORYs",
+                     gBlock.gColPROCESS_CATEGORY, &clsWPXWriter::WriteProcessCategory);
 }
 
 void clsWPXWriter::WriteProcessCategory(const clsPROCESS_CATEGORY& CATEGORY) {
@@ -90,14 +67,14 @@ void clsWPXWriter::WriteProcessCategory(const clsPROCESS_CATEGORY& CATEGORY) {
 }
 
 std::int32_t clsWPXWriter::WriteAllProgram() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllProgram", "PROGRAMs", gBlock.gColPROGRAM,
-                        &clsWPXWriter::WriteProgram);
+    return WriteEach(*this, "clsWPXWriter.WriteAllProgram", "PROGRAMs", gBlock.gColPROGRAM,
+                     &clsWPXWriter::WriteProgram);
 }
 
 void clsWPXWriter::WriteProgram(const clsPROGRAM& PROGRAM) {
     Procedure("clsWPXWriter.WriteProgram", [&](Frame&) {
-        WriteBlock(Block(0, "PROGRAM " + PROGRAM.ObjectName + " (" + PROGRAM.InputContainer->ObjectName +
-                                ", " + PROGRAM.OutputContainer->ObjectName + ")")
+        WriteBlock(Block(0, "PROGRAM " + PROGRAM.ObjectName +
+                                ContainersText(PROGRAM.InputContainer, PROGRAM.OutputContainer))
                        .Line(1, "DESCRIPTION ", PROGRAM.DESCRIPTION)
                        .Line(1, "DOCUMENTATION ", PROGRAM.DOCUMENTATION)
                        .Line(1, "", PROGRAM.OtherSettings)
@@ -106,8 +83,7 @@ void clsWPXWriter::WriteProgram(const clsPROGRAM& PROGRAM) {
 }
 
 std::int32_t clsWPXWriter::WriteAllRole() {
-    return WriteSection(*this, "clsWPXWriter.WriteAllRole", "ROLEs", gBlock.gColROLE,
-                        &clsWPXWriter::WriteRole);
+    return WriteEach(*this, "clsWPXWriter.WriteAllRole", "ROLEs", gBlock.gColROLE, &clsWPXWriter::WriteRole);
 }
 
 void clsWPXWriter::WriteRole(const clsROLE& ROLE) {
@@ -121,8 +97,9 @@ void clsWPXWriter::WriteRole(const clsROLE& ROLE) {
 }
 
 std::int32_t clsWPXWriter::WriteAllPerson(bool Update) {
-    return WritePass(*this, "clsWPXWriter.WriteAllPerson", "PERSONs", Update, gBlock.gColPERSON,
-                     &clsWPXWriter::WritePerson);
+    const std::int32_t count = WriteEach(*this, "clsWPXWriter.WriteAllPerson", Update ? noTitle : "PERSONs",
+                                         gBlock.gColPERSON, &clsWPXWriter::WritePerson, Update);
+    return Update ? 0 : count;
 }
 
 void clsWPXWriter::WritePerson(const clsPERSON& PERSON, bool Update) {
@@ -143,8 +120,10 @@ void clsWPXWriter::WritePerson(const clsPERSON& PERSON, bool Update) {
 }
 
 std::int32_t clsWPXWriter::WriteAllOrganization(bool Update) {
-    return WritePass(*this, "clsWPXWriter.WriteAllOrganization", "ORGANIZATIONs", Update,
-                     gBlock.gColORGANIZATION, &clsWPXWriter::WriteOrganization);
+    const std::int32_t count =
+        WriteEach(*this, "clsWPXWriter.WriteAllOrganization", Update ? noTitle : "ORGANIZATIONs",
+                  gBlock.gColORGANIZATION, &clsWPXWriter::WriteOrganization, Update);
+    return Update ? 0 : count;
 }
 
 void clsWPXWriter::WriteOrganization(const clsORGANIZATION& ORGANIZATION, bool Update) {

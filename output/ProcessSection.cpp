@@ -2,25 +2,16 @@
 // registry: batch by batch, those of the selected models first, then those that their activities start.
 
 #include "data/clsDATA_CONNECTOR.h"
-#include "data/clsDATA_STRUCTURE.h"
 #include "model/clsACTIVITY.h"
 #include "model/clsCONTROL_CONNECTOR.h"
 #include "model/clsPROCESS.h"
 #include "output/Block.h"
+#include "output/Sections.h"
 #include "output/clsWPXWriter.h"
 #include "run/Frame.h"
 #include "run/modGlobals.h"
 
 namespace wxbrg {
-
-namespace {
-
-/// The two containers of a process or an activity: " ('A', 'B')".
-std::string ContainersText(const Ref<clsDATA_STRUCTURE>& input, const Ref<clsDATA_STRUCTURE>& output) {
-    return " (" + input->ObjectName + ", " + output->ObjectName + ")";
-}
-
-}  // namespace
 
 std::int32_t clsWPXWriter::WriteAllProcess() {
     return Procedure("clsWPXWriter.WriteAllProcess", [&](Frame&) {
@@ -56,10 +47,8 @@ std::int32_t clsWPXWriter::WriteProcess(const clsPROCESS& PROCESS) {
 }
 
 std::int32_t clsWPXWriter::WriteAllActivity(const clsPROCESS& PROCESS) {
-    return Procedure("clsWPXWriter.WriteAllActivity", [&](Frame&) {
-        for (const Ref<clsACTIVITY>& activity : PROCESS.Col_ACTIVITY) WriteActivity(*activity);
-        return PROCESS.Col_ACTIVITY.Count();
-    });
+    return WriteEach(*this, "clsWPXWriter.WriteAllActivity", noTitle, PROCESS.Col_ACTIVITY,
+                     &clsWPXWriter::WriteActivity);
 }
 
 void clsWPXWriter::WriteActivity(const clsACTIVITY& ACTIVITY) {
@@ -85,16 +74,13 @@ void clsWPXWriter::WriteActivity(const clsACTIVITY& ACTIVITY) {
 }
 
 std::int32_t clsWPXWriter::WriteAllControlConnector(const clsPROCESS& PROCESS) {
-    return Procedure("clsWPXWriter.WriteAllControlConnector", [&](Frame&) {
-        for (const Ref<clsCONTROL_CONNECTOR>& connector : PROCESS.Col_CONTROL_CONNECTOR)
-            WriteControlConnector(*connector);
-        return PROCESS.Col_CONTROL_CONNECTOR.Count();
-    });
+    return WriteEach(*this, "clsWPXWriter.WriteAllControlConnector", noTitle, PROCESS.Col_CONTROL_CONNECTOR,
+                     &clsWPXWriter::WriteControlConnector);
 }
 
 void clsWPXWriter::WriteControlConnector(const clsCONTROL_CONNECTOR& CONNECTOR) {
     Procedure("clsWPXWriter.WriteControlConnector", [&](Frame&) {
-        // The language has no connector from an activity to itself.
+        // The language has no control connector from an activity to itself: it is counted and not written.
         if (CONNECTOR.IsLoopConnector()) return;
         Block block(1, "CONTROL");
         block.Line(2, "DESCRIPTION ", CONNECTOR.DESCRIPTION).Line(2, "", CONNECTOR.Linking);
@@ -104,11 +90,8 @@ void clsWPXWriter::WriteControlConnector(const clsCONTROL_CONNECTOR& CONNECTOR) 
 }
 
 std::int32_t clsWPXWriter::WriteAllDataConnector(const clsPROCESS& PROCESS) {
-    return Procedure("clsWPXWriter.WriteAllDataConnector", [&](Frame&) {
-        for (const Ref<clsDATA_CONNECTOR>& connector : PROCESS.Col_DATA_CONNECTOR)
-            WriteDataConnector(*connector);
-        return PROCESS.Col_DATA_CONNECTOR.Count();
-    });
+    return WriteEach(*this, "clsWPXWriter.WriteAllDataConnector", noTitle, PROCESS.Col_DATA_CONNECTOR,
+                     &clsWPXWriter::WriteDataConnector);
 }
 
 void clsWPXWriter::WriteDataConnector(const clsDATA_CONNECTOR& CONNECTOR) {
