@@ -59,6 +59,7 @@ void clsDATA_CONNECTOR::SetupProperties() {
         SetupProperty_Linking("");
         SetupProperty_Mapping(nullptr);
         SetupProperty_LAYOUT("");
+        // The process notes those at its boundary, when it has completed them.
         if (ConnectorKind == DataConnectorKind::activityToActivity)
             WriteNote(Message::propertiesComplete, "DATA CONNECTOR", Linking);
         SetupFinished = true;

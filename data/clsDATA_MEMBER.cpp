@@ -11,6 +11,7 @@ constexpr std::string_view attributeRule = "DATA_MEMBER_TYPE";
 constexpr std::string_view domainRule = "DOMAINTYPE_DOM_TYPE";
 }  // namespace
 
+// The one kind that writes no note when it is complete.
 void clsDATA_MEMBER::SetupProperties() {
     Procedure("clsDATA_MEMBER.SetupProperties", [&](Frame&) {
         if (SetupFinished) return;
@@ -32,6 +33,8 @@ void clsDATA_MEMBER::SetupProperty_DataType() {
         DataType = "STRING";
         if (DATA_STRUCTURE_Is_DATA_STRUCTURE(ARISObjectDefinition)) {
             IsDataStructure = true;
+            // The member's name and not the structure's. They agree as long as DATA_MEMBER_MemberName and
+            // DATA_STRUCTURE_ObjectName name the same attribute.
             DataType = MemberName;
             return;
         }

@@ -21,7 +21,7 @@ void clsDATA_STRUCTURE::SetupProperty_ObjectName() {
             return Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(ARISObjectDefinition,
                                                                  "DATA_STRUCTURE_ObjectName");
         if (!ColARISDataMemberObjectDefinition.IsEmpty()) return DATA_STRUCTURE_GenerateName();
-        return std::string("'Default Data Structure'");
+        return std::string(defaultStructureName);  // quoted once more, but nobody generates an empty one
     };
     SetupText("clsDATA_STRUCTURE.SetupProperty_ObjectName", ObjectName, true,
               IsGenerated ? NameKind::objectName : NameKind::memberName, name);

@@ -17,7 +17,7 @@ void clsPERSON::SetupProperties() {
         SetupProperty_SUBSTITUTE();
         SetupProperty_RELATED_ROLE();
         SetupProperty_RELATED_ORGANIZATION();
-        SetupProperty_DESCRIPTION();
+        SetupProperty_DESCRIPTION();  // behind the neighbours, whose notes come first
         SetupProperty_OtherSettings();
     });
 }

@@ -28,8 +28,8 @@ std::string_view WithoutDomain(std::string_view login) {
     return at != std::string_view::npos && at > 0 ? login.substr(0, at) : login;
 }
 
-/// A name that begins with a digit keeps it, and loses the first "sChar" instead. Odd as that is, names in
-/// definitions that exist were made so.
+/// A name that begins with a digit keeps it, and loses the first "sChar" instead. Odd as that is, to change
+/// it would rename objects in the definitions that sites have.
 std::string WithoutMarkBehindDigit(std::string name) {
     if (name.empty() || name.front() < '0' || name.front() > '9') return name;
     constexpr std::string_view mark = "sChar";
@@ -38,7 +38,8 @@ std::string WithoutMarkBehindDigit(std::string name) {
     return name;
 }
 
-/// A domain type's name and the data type that it becomes.
+/// A domain type's name and the data type that it becomes. A Boolean is a string on purpose, for there is
+/// no other type than these three.
 struct DataTypeRow {
     std::string_view domainType;
     std::string_view dataType;

@@ -60,6 +60,7 @@ PathCollection ConcatenatePaths(const PathCollection& first, const PathCollectio
     });
 }
 
+// Bears the name of the procedure above, of which it is a part.
 PathCollection::Entry ConcatenatePath(const Ref<clsPath>& head, const Ref<const PathCollection>& tails) {
     return Procedure("modPath.ConcatenatePaths", [&](Frame&) {
         return Join(head, tails);

@@ -70,6 +70,8 @@ bool clsACTIVITY::IsOnAllIncomingPaths(const ARISObjDef& ruleObject) const {
     return onAll;
 }
 
+// The two modes are read as settings are: only with the option for other settings.
+
 void clsACTIVITY::SetupProperty_StartMode() {
     SetupSettings("clsACTIVITY.SetupProperty_StartMode", StartMode, ARISObjectDefinition,
                   "ACTIVITY_START_MODE");
@@ -90,6 +92,7 @@ std::string clsACTIVITY::GetProperty_ExitCondition(std::string_view RuleName) {
             return Find_ARIS_ObjDef_Attribute_Using_Mapping_Rule(ARISObjectDefinition, RuleName);
         for (const Ref<clsCONTROL_CONNECTOR>& connector : Col_CONTROL_CONNECTOR_OUT) {
             if (!connector->IsLoopConnector()) continue;
+            // All that is left of a loop: the activity repeats until the condition fails.
             return connector->Condition.empty() ? std::string() : "NOT ( " + connector->Condition + " )";
         }
         return {};

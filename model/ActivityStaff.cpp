@@ -42,6 +42,8 @@ void clsACTIVITY::SetupProperty_SUPPORT_TOOL() {
     Procedure("clsACTIVITY.SetupProperty_SUPPORT_TOOL", [&](Frame& frame) {
         Collection<ARISObjDef> programs;
         Find_Related_ARIS_ObjDef_Using_Mapping_Rule(programs, ARISObjectDefinition, "ACTIVITY_PROGRAM");
+        // A program activity runs the first. The name is the object's own, not the attribute of a rule, and
+        // no program is made of a tool.
         for (std::int32_t i = Is_PROCESS_ACTIVITY() ? 1 : 2; i <= programs.Count(); ++i) {
             std::string name = programs.Item(i)->Name(gBlock.gLocale);
             frame.Step([&] {

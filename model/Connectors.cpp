@@ -14,6 +14,8 @@ std::string ConnectorKey(const ARISObjDef& from, const ARISObjDef& to) {
     return std::string(from->Guid()).append("/").append(to->Guid());
 }
 
+// Reads the object's name and not the rule ACTIVITY_ActivityName, as the activity does: under a profile that
+// changes the rule, the two differ.
 std::string CitedName(const ARISObjDef& object) {
     return Quoted(ConvertARISName(object->Name(gBlock.gLocale), NameKind::activityName, ""));
 }

@@ -26,6 +26,7 @@ std::string Comparison(const ARISObjDef& event, const Collection<ARISObjDef>& da
     if (value.empty()) return {};
     if (!IsNumeric(value, DecimalSeparator())) value = "\"" + value + "\"";
     std::string name = ConvertARISName(data.Item(1)->Name(gBlock.gLocale), NameKind::memberName, "");
+    // The condition is printed in apostrophes, so that those around a name are doubled.
     if (name.find(' ') != std::string::npos) name = "''" + name + "''";
     if (data.Count() > 1) WriteNote(Message::severalDataCompared, event->Name(gBlock.gLocale));
     return name + " " + compareOperator + " " + value;
@@ -46,7 +47,9 @@ class ConditionReader : public PathReader {
         return !condition.empty() || gBlock.gRunReport.notes != notes || gBlock.gRunReport.boxes != boxes;
     }
 
-    /// Once two paths had a condition, one without takes over that of the last.
+    /// Once two paths had a condition, one without takes over that of the last: `A OR B OR B`. Before that it
+    /// adds nothing. It looks like a forgotten reset; to change it would change the definitions that sites
+    /// have.
     void EndPath() override {
         const bool hasCondition = !ofPath_.empty();
         if (hasCondition) {

@@ -90,6 +90,7 @@ void clsPROCESS::SetupProperty_DOCUMENTATION() {
 }
 
 void clsPROCESS::SetupProperty_CATEGORY() {
+    // No rule and no option plays a part.
     SetupText("clsPROCESS.SetupProperty_CATEGORY", CATEGORY, true, NameKind::objectName, [&] {
         return ARIS_Group->Name(gBlock.gLocale);
     });

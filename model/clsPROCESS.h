@@ -17,6 +17,10 @@ class clsCONTROL_CONNECTOR;
 class clsDATA_CONNECTOR;
 enum class DataConnectorKind : std::int32_t;
 
+/// What the search for the smallest position of an activity starts from. That for the largest starts from 0,
+/// so that a model at negative positions counts as reaching to its origin.
+inline constexpr std::int32_t aboveAllPositions = 99999999;
+
 /// A process: one ARIS model of a process type, with the activities and connectors that it owns. Its window
 /// has a fixed size, into which the layout of the model is scaled.
 class clsPROCESS {
@@ -43,8 +47,8 @@ class clsPROCESS {
     double ShrinkFactor = 1.0;  ///< window units for one unit of the model, at most 1
     std::int32_t MaxXPos = 0;   ///< largest position of an activity, at least 0
     std::int32_t MaxYPos = 0;
-    std::int32_t MinXPos = 99999999;  ///< smallest position of an activity
-    std::int32_t MinYPos = 99999999;
+    std::int32_t MinXPos = aboveAllPositions;  ///< smallest position of an activity
+    std::int32_t MinYPos = aboveAllPositions;
     std::int32_t X_ContingencyOffset = 0;  ///< smallest position less the margin
     std::int32_t Y_ContingencyOffset = 0;
     std::int32_t X_WPX_Offset = 0;  ///< reserved: nothing writes or reads it

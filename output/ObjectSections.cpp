@@ -17,7 +17,8 @@ namespace wxbrg {
 
 namespace {
 
-/// The UPDATE block of a reference that may point forward; an empty reference leaves an empty line.
+/// The UPDATE block of a reference that may point forward. Without a reference an empty text is written, and
+/// an empty line is what the file gets of it.
 void WriteUpdate(std::string_view keyword, const std::string& name, std::string_view property,
                  const std::string& reference) {
     if (reference.empty())

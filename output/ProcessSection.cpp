@@ -95,6 +95,7 @@ std::int32_t clsWPXWriter::WriteAllDataConnector(const clsPROCESS& PROCESS) {
 }
 
 void clsWPXWriter::WriteDataConnector(const clsDATA_CONNECTOR& CONNECTOR) {
+    // A data connector from an activity to itself is written: the language has LOOP for it.
     Procedure("clsWPXWriter.WriteDataConnector", [&](Frame&) {
         Block block(1, "DATA");
         block.Line(2, "DESCRIPTION ", CONNECTOR.DESCRIPTION).Line(2, "", CONNECTOR.Linking);
