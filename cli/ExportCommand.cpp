@@ -47,20 +47,28 @@ void PutSettings(const ExportArguments& given, OverlayProfileStore& store) {
     if (!given.language.empty()) store.Write(programKey, languageValue, given.language);
 }
 
+/// The models to export. Where the rules in force cannot be read, the run is to find that out by itself and
+/// to end as it always does then: any model counts, and all are taken where none is named.
+std::vector<ARISModel> ModelsToExport(const ExportArguments& given, const OpenedRepository& repository,
+                                      const ProcessTypes& inForce) {
+    const bool known = inForce.report.ending == RunEnding::normal;
+    const ModelChoice choice{given.models, given.all || (!known && given.models.empty())};
+    return ChooseModels(choice, *repository.catalogue, repository.locale, [&](std::int32_t type) {
+        return !known || IsProcessTypeIn(inForce, type);
+    });
+}
+
 ExportSelection Select(const ExportArguments& given, const OpenedRepository& repository,
                        const ProcessTypes& inForce) {
     ExportSelection selection;
     selection.user = given.user;
     selection.database = TextOf(PathOf(given.repository.file).stem());
     selection.locale = repository.locale;
-    selection.models = ChooseModels({given.models, given.all}, *repository.catalogue, repository.locale,
-                                    [&](std::int32_t type) {
-                                        return IsProcessTypeIn(inForce, type);
-                                    });
+    selection.models = ModelsToExport(given, repository, inForce);
     return selection;
 }
 
-/// What a run with nobody to ask stands on, apart from the environment.
+/// What a batch run uses besides the environment.
 struct BatchParts {
     OverlayProfileStore profileStore;
     std::unique_ptr<CodePage> codePage;
@@ -89,15 +97,10 @@ int RunExportCommand(const ExportArguments& given, const ToolEnvironment& enviro
     BatchParts own{OverlayProfileStore(environment.profileStore), OpenCodePage(given, environment),
                    environment.progress(), ChosenProfile(given.rules, environment.fileSystem)};
     PutSettings(given, own.profileStore);
-    // What the boxes say here, those of the run say again, where it comes to one.
-    std::ostringstream told;
+    // What the boxes say here, those of the run say again.
+    std::ostringstream ignored;
     const ProcessTypes inForce =
-        ProcessTypesInForce(environment, {own.profileStore, *own.codePage, own.mappingProfile}, told);
-    if (inForce.report.ending != RunEnding::normal) {
-        environment.err << told.str();
-        TellProgramFailure(inForce.report, environment.err);
-        return ExitStatusOf(inForce.report, given.strict);
-    }
+        ProcessTypesInForce(environment, {own.profileStore, *own.codePage, own.mappingProfile}, ignored);
     const OpenedRepository repository = OpenRepository(given.repository, environment, *own.progress);
     RunRequest request;
     request.selection = Select(given, repository, inForce);

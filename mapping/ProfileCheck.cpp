@@ -15,6 +15,7 @@
 #include "mapping/ProfileClauses.h"
 #include "mapping/ProfileNames.h"
 #include "mapping/ProfileReading.h"
+#include "mapping/RuleTable.h"
 #include "support/Text.h"
 
 namespace wxbrg {

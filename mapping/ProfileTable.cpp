@@ -1,7 +1,5 @@
 #include "mapping/ProfileTable.h"
 
-#include "mapping/RuleTable.h"
-#include "run/modGlobals.h"
 
 namespace wxbrg {
 
@@ -24,14 +22,6 @@ clsMappingRule RuleOf(const ProfileClause& clause) {
 }
 
 }  // namespace
-
-RuleTable BuiltInRules() {
-    RenewGlobals();
-    CreateDefaultMappingRules();
-    RuleTable rules = RulesOf(gBlock.gColMappingRule);
-    RenewGlobals();
-    return rules;
-}
 
 RuleTable RulesOf(const Collection<Ref<clsMappingRule>>& rules) {
     RuleTable table;

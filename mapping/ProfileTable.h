@@ -13,9 +13,6 @@ namespace wxbrg {
 /// The rules of a table, in its order. Each fills in one of its three parts.
 using RuleTable = std::vector<clsMappingRule>;
 
-/// The built-in rules. The global block is made anew.
-RuleTable BuiltInRules();
-
 /// The rules of a table as a run has it.
 RuleTable RulesOf(const Collection<Ref<clsMappingRule>>& rules);
 

@@ -22,22 +22,31 @@ void AddRow(clsMappingRule& rule, const defaultRules::StepRow& row) {
 }
 
 template <class Rows>
-void CreateRules(Frame& frame, const Rows& rows) {
+void AppendRules(std::vector<clsMappingRule>& rules, const Rows& rows) {
     for (std::size_t i = 0; i < rows.size();) {
-        const Ref<clsMappingRule> rule = gBlock.gPool.Create<clsMappingRule>();
-        rule->Name = rows[i].rule;
-        for (; i < rows.size() && rows[i].rule == rule->Name; ++i) AddRow(*rule, rows[i]);
-        if (!gBlock.gColMappingRule.AddNew(rule, rule->Name)) frame.Raise(Message::ruleDoubled, rule->Name);
+        clsMappingRule& rule = rules.emplace_back();
+        rule.Name = rows[i].rule;
+        for (; i < rows.size() && rows[i].rule == rule.Name; ++i) AddRow(rule, rows[i]);
     }
 }
 
 }  // namespace
 
+std::vector<clsMappingRule> BuiltInRules() {
+    std::vector<clsMappingRule> rules;
+    AppendRules(rules, defaultRules::types);
+    AppendRules(rules, defaultRules::attributes);
+    AppendRules(rules, defaultRules::steps);
+    return rules;
+}
+
 void CreateDefaultMappingRules() {
     Procedure("modMappingRule.CreateDefaultMappingRules", [&](Frame& frame) {
-        CreateRules(frame, defaultRules::types);
-        CreateRules(frame, defaultRules::attributes);
-        CreateRules(frame, defaultRules::steps);
+        for (const clsMappingRule& builtIn : BuiltInRules()) {
+            const Ref<clsMappingRule> rule = gBlock.gPool.Create<clsMappingRule>(builtIn);
+            if (!gBlock.gColMappingRule.AddNew(rule, rule->Name))
+                frame.Raise(Message::ruleDoubled, rule->Name);
+        }
     });
 }
 

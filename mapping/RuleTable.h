@@ -2,12 +2,16 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "mapping/clsMappingRule.h"
 #include "run/Frame.h"
 #include "support/Ref.h"
 
 namespace wxbrg {
+
+/// The default rules as values, in the order of their table.
+std::vector<clsMappingRule> BuiltInRules();
 
 /// Fills the rule table with the default rules. A name that is there already brings the warning 2110, and the
 /// rule that was there stays.

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "mapping/ProfileText.h"
+#include "mapping/RuleTable.h"
 #include "tests/cli/ProgramFixture.h"
 
 namespace wxbrg::cli {

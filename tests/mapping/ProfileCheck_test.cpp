@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "mapping/ProfileText.h"
+#include "mapping/RuleTable.h"
 #include "support/Text.h"
 
 namespace wxbrg {

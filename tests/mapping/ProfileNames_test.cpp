@@ -13,6 +13,7 @@
 #include <string>
 
 #include "mapping/ProfileTable.h"
+#include "mapping/RuleTable.h"
 
 namespace wxbrg {
 namespace {

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "mapping/ProfileText.h"
+#include "mapping/RuleTable.h"
 #include "options/OptionTable.h"
 #include "platform/scripted/ScriptLines.h"
 #include "tests/TemporaryFolder.h"
