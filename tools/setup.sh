@@ -58,8 +58,12 @@ build() {
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
-# run_tests PRESET: runs every test of build/PRESET, side by side on all cores.
+# run_tests PRESET: runs every test of build/PRESET, side by side on all cores. The last line tells how many passed,
+# failed and were skipped, the lines above it why.
 run_tests() {
     say "Testing the preset $1"
-    ctest --preset "$1" --parallel "$(nproc)"
+    local results=$PWD/build/$1/tests.xml status=0
+    ctest --preset "$1" --parallel "$(nproc)" --output-junit "$results" || status=$?
+    python3 tools/summary.py "$results" || status=1
+    return "$status"
 }
