@@ -65,7 +65,7 @@ using LoadProgress = std::function<void(std::uint64_t done, std::uint64_t total)
 struct RepositoryRequest {
     std::string file;
     std::string typesFile;  ///< further rows for the type table; empty: none
-    LoadProgress progress;  ///< told now and then while the file is read; may be empty
+    LoadProgress progress;  ///< called now and then while the file is read; may be empty
 };
 
 /// Opens and reads a repository whole. Throws `Failure` (numbers 53, 75, 76 or 321) with a description that

@@ -121,7 +121,7 @@ class Item {
     virtual std::string_view Guid() const = 0;
     /// The name in a locale, line breaks kept; empty where there is none.
     virtual std::string Name(std::int32_t locale) const = 0;
-    /// Always a handle, also for an attribute without a value: `IsMaintained` tells.
+    /// Always a handle, also for an attribute without a value: `IsMaintained` says.
     virtual ARISAttr Attribute(std::int32_t attrTypeNum, std::int32_t locale) const = 0;
 };
 

@@ -7,7 +7,7 @@
 namespace wxbrg::cli {
 
 BatchPlatform::BatchPlatform(const ToolEnvironment& environment, BatchSettings setting)
-    : messageBox_(setting.told, setting.progress),
+    : messageBox_(setting.boxes, setting.progress),
       fileDialog_(std::move(setting.output)),
       platform_(PlatformOf(environment, {.codePage = setting.codePage,
                                          .messageBox = messageBox_,

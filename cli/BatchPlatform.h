@@ -11,12 +11,12 @@
 
 namespace wxbrg::cli {
 
-/// What a run that asks nobody does in a way of its own. What stands as a reference outlives the platform.
+/// What a run that asks nobody does in a way of its own. What is a reference outlives the platform.
 struct BatchSettings {
     ProfileStore& profileStore;
     CodePage& codePage;
     Progress& progress;
-    std::ostream& told;                         ///< for the boxes
+    std::ostream& boxes;  ///< where boxes are printed
     std::string output = {};                    ///< what the file dialog gives
     std::optional<std::string> mappingProfile;  ///< as in `Platform`
 };

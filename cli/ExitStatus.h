@@ -1,6 +1,6 @@
 #pragma once
 
-/// What the program tells its caller when it ends.
+/// What the program reports to its caller when it ends.
 namespace wxbrg::cli::ExitStatus {
 inline constexpr int normal = 0;
 inline constexpr int failure = 1;      ///< a failure ended the run, or it could not begin

@@ -81,7 +81,7 @@ RunReport RunBatch(const RunRequest& request, const std::string& output, aris::A
     BatchPlatform platform(environment, {.profileStore = own.profileStore,
                                          .codePage = *own.codePage,
                                          .progress = *own.progress,
-                                         .told = environment.err,
+                                         .boxes = environment.err,
                                          .output = output,
                                          .mappingProfile = own.mappingProfile});
     RunReport report = RunExport(request, platform.Get(), automation);
@@ -108,9 +108,9 @@ int RunExportCommand(const ExportArguments& given, const ToolEnvironment& enviro
         environment.catalogueAutomation(*repository.catalogue);
     const RunReport report = RunBatch(request, given.output, *automation, own, environment);
 
-    TellProgramFailure(report, environment.err);
+    ReportProgramFailure(report, environment.err);
     if (report.ending != RunEnding::normal || given.quiet)
-        TellLostCharacters(*own.codePage, environment.err);
+        ReportLostCharacters(*own.codePage, environment.err);
     else
         WriteSummary({given.output, report, *repository.catalogue, own.codePage->Number(),
                       own.codePage->LackingCharacters(), std::chrono::steady_clock::now() - start},

@@ -74,7 +74,7 @@ void WriteSummary(const ExportSummary& summary, std::ostream& out) {
     if (report.boxes.exclamation != 0) out << "Warnings shown:         " << report.boxes.exclamation << '\n';
     if (summary.lackingCharacters != 0)
         out << "Characters lost:        " << summary.lackingCharacters << ", which the code page "
-            << summary.codePage << " lacks; they stand as \"?\"\n";
+            << summary.codePage << " lacks; they are written as \"?\"\n";
     WriteUnknownTypes(summary.catalogue.UnknownTypes(), out);
     WriteDangling(summary.catalogue.Dangling(), out);
     out << "Time:                   " << Seconds(summary.time) << '\n';

@@ -9,7 +9,7 @@
 namespace wxbrg::cli {
 
 /// Files as another file system has them, with relative names counted from a folder. Failures name a file as
-/// it was asked for, so that what a run tells does not depend on where the folder lies.
+/// it was asked for, so that what a run reports does not depend on where the folder lies.
 class FolderFileSystem : public FileSystem {
   public:
     FolderFileSystem(FileSystem& files, std::filesystem::path folder);

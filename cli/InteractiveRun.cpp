@@ -27,7 +27,7 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
     const std::unique_ptr<Progress> progress = environment.progress();
     const Dialogs dialogs = environment.dialogs();
     const std::unique_ptr<aris::Automation> automation = environment.folderAutomation(
-        RepositoryFolder(environment.profileStore), TellingOf(*progress, "the database"));
+        RepositoryFolder(environment.profileStore), ProgressOf(*progress, "the database"));
     Platform platform = PlatformOf(environment, {.codePage = *codePage,
                                                  .messageBox = *dialogs.messageBox,
                                                  .fileDialog = *dialogs.fileDialog,
@@ -36,8 +36,8 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
                                                  .progress = *progress});
     const RunReport report = RunExport(request, platform, *automation);
     progress->Report({}, 0, 0);
-    TellProgramFailure(report, environment.err);
-    TellLostCharacters(*codePage, environment.err);
+    ReportProgramFailure(report, environment.err);
+    ReportLostCharacters(*codePage, environment.err);
     return ExitStatusOf(report, false);
 }
 

@@ -40,7 +40,7 @@ int RunModelsCommand(const ModelsArguments& given, const ToolEnvironment& enviro
         {environment.profileStore, *codePage, ChosenProfile(given.rules, environment.fileSystem)},
         environment.err);
     if (inForce.report.ending != RunEnding::normal) {
-        TellProgramFailure(inForce.report, environment.err);
+        ReportProgramFailure(inForce.report, environment.err);
         return ExitStatusOf(inForce.report, false);
     }
     const std::unique_ptr<Progress> progress = environment.progress();

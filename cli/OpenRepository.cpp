@@ -8,7 +8,7 @@
 
 namespace wxbrg::cli {
 
-aris::LoadProgress TellingOf(Progress& progress, const std::string& repository) {
+aris::LoadProgress ProgressOf(Progress& progress, const std::string& repository) {
     return [&progress, stage = "reading " + repository](std::uint64_t done, std::uint64_t total) {
         progress.Report(stage, done, total);
     };
@@ -19,7 +19,7 @@ OpenedRepository OpenRepository(const RepositoryArguments& given, const ToolEnvi
     aris::RepositoryRequest request;
     request.file = given.file;
     request.typesFile = given.typesFile;
-    request.progress = TellingOf(progress, given.file);
+    request.progress = ProgressOf(progress, given.file);
     OpenedRepository opened;
     opened.catalogue = environment.openRepository(request);
     opened.locale = ChooseLocale(*opened.catalogue, given.locale);

@@ -17,11 +17,11 @@ struct OpenedRepository {
     std::int32_t locale = 0;
 };
 
-/// Tells `progress` how far the reading of a repository has come.
-aris::LoadProgress TellingOf(Progress& progress, const std::string& repository);
+/// Reports to `progress` how far the reading of a repository has come.
+aris::LoadProgress ProgressOf(Progress& progress, const std::string& repository);
 
-/// Reads the repository, telling `progress`. Throws `Failure` where it cannot be read and `UsageError` where
-/// it does not hold the language that was asked for.
+/// Reads the repository, reporting to `progress`. Throws `Failure` where it cannot be read and `UsageError`
+/// where it does not hold the language that was asked for.
 OpenedRepository OpenRepository(const RepositoryArguments& given, const ToolEnvironment& environment,
                                 Progress& progress);
 

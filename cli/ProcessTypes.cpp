@@ -9,12 +9,12 @@
 namespace wxbrg::cli {
 
 ProcessTypes ProcessTypesInForce(const ToolEnvironment& environment, const RulesInForce& rules,
-                                 std::ostream& told) {
+                                 std::ostream& boxes) {
     NoProgress progress;
     BatchPlatform platform(environment, {.profileStore = rules.profileStore,
                                          .codePage = rules.codePage,
                                          .progress = progress,
-                                         .told = told,
+                                         .boxes = boxes,
                                          .mappingProfile = rules.mappingProfile});
     return ReadProcessTypes(platform.Get());
 }

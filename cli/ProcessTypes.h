@@ -17,9 +17,9 @@ struct RulesInForce {
     std::optional<std::string> mappingProfile;  ///< as in `Platform`
 };
 
-/// Which models are mapped as processes by the rules. Boxes about the profile are printed to `told`.
+/// Which models are mapped as processes by the rules. Boxes about the profile are printed to `boxes`.
 ProcessTypes ProcessTypesInForce(const ToolEnvironment& environment, const RulesInForce& rules,
-                                 std::ostream& told);
+                                 std::ostream& boxes);
 
 /// Whether a model type is among them.
 bool IsProcessTypeIn(const ProcessTypes& inForce, std::int32_t modelType);

@@ -29,7 +29,7 @@ ProfileFile ReadFile(const RuleArguments& given, const ToolEnvironment& environm
     BatchPlatform platform(environment, {.profileStore = environment.profileStore,
                                          .codePage = *codePage,
                                          .progress = progress,
-                                         .told = environment.err,
+                                         .boxes = environment.err,
                                          .mappingProfile = ChosenProfile(given, environment.fileSystem)});
     return ReadProfileFile(platform.Get());
 }
@@ -38,17 +38,17 @@ RuleArguments Named(const std::string& file) {
     return {.profile = file, .builtIn = false};
 }
 
-void Tell(const std::string& file, const ProfileFinding& finding, std::ostream& out) {
+void Print(const std::string& file, const ProfileFinding& finding, std::ostream& out) {
     const char* const severity = finding.severity == FindingSeverity::error ? "error" : "warning";
     out << file << ':' << finding.place.line << ':' << finding.place.column << ": " << severity << ": "
         << finding.text << '\n';
 }
 
-/// The rules that the arguments name; nothing, behind telling why, where they cannot be taken from the file.
+/// The rules that the arguments name; nothing, after reporting why, where they cannot be taken from the file.
 std::optional<RuleTable> ReadRules(const RuleArguments& given, const ToolEnvironment& environment) {
     const ProfileFile file = ReadFile(given, environment);
     ProfileRules read = ReadProfileRules(file.text, environment.userLocale.DecimalSeparator());
-    for (const ProfileFinding& mistake : read.mistakes) Tell(file.name, mistake, environment.err);
+    for (const ProfileFinding& mistake : read.mistakes) Print(file.name, mistake, environment.err);
     if (!read.mistakes.empty()) return std::nullopt;
     return std::move(read.rules);
 }
@@ -68,7 +68,7 @@ int Check(const std::string& name, const ToolEnvironment& environment) {
     const ProfileFile file = ReadFile(Named(name), environment);
     const std::vector<ProfileFinding> findings =
         CheckProfile(file.text, environment.userLocale.DecimalSeparator());
-    for (const ProfileFinding& finding : findings) Tell(name, finding, environment.out);
+    for (const ProfileFinding& finding : findings) Print(name, finding, environment.out);
     const auto errors = std::count_if(findings.begin(), findings.end(), [](const ProfileFinding& finding) {
         return finding.severity == FindingSeverity::error;
     });

@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 /// The name under which a run looks for the mapping profile of a case, in the case's folder.
 constexpr const char* profileStem = "profile";
 
-/// Reads a part of the case; what is wrong with it is told with the file's name.
+/// Reads a part of the case; what is wrong with it is reported with the file's name.
 template <class Read>
 auto ReadPart(const fs::path& file, const Read& read) {
     try {
@@ -132,7 +132,7 @@ int RunReplayCommand(const ReplayArguments& given, const ToolEnvironment& enviro
     if (const std::optional<std::string>& error = ready.script.Error())
         throw UsageError(TextOf(folder / "answers") + ": " + *error + ".");
     TranscribeEnding(report, environment.out);
-    TellProgramFailure(report, environment.err);
+    ReportProgramFailure(report, environment.err);
     WriteOptions(ready.store, out / "options", environment.fileSystem);
     return ExitStatus::normal;
 }

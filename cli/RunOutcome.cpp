@@ -27,11 +27,11 @@ int ExitStatusOf(const RunReport& report, bool strict) {
     return cancelled ? ExitStatus::cancelled : ExitStatus::failure;
 }
 
-void TellProgramFailure(const RunReport& report, std::ostream& err) {
+void ReportProgramFailure(const RunReport& report, std::ostream& err) {
     if (report.ending == RunEnding::error) err << "wxbrg: " << report.error << '\n';
 }
 
-void TellLostCharacters(const CodePage& codePage, std::ostream& err) {
+void ReportLostCharacters(const CodePage& codePage, std::ostream& err) {
     const std::uint64_t lacking = codePage.LackingCharacters();
     if (lacking == 0) return;
     err << "wxbrg: The code page " << codePage.Number() << " lacks " << lacking

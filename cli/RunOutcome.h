@@ -10,10 +10,10 @@ namespace wxbrg::cli {
 /// warning where a box or a note of severity 48 is among what it reports.
 int ExitStatusOf(const RunReport& report, bool strict);
 
-/// Tells what no message box has told: that the program itself failed.
-void TellProgramFailure(const RunReport& report, std::ostream& err);
+/// Reports what no message box has shown: that the program itself failed.
+void ReportProgramFailure(const RunReport& report, std::ostream& err);
 
-/// Tells how many characters were lost because the files' code page lacks them, where there are any.
-void TellLostCharacters(const CodePage& codePage, std::ostream& err);
+/// Reports how many characters were lost because the files' code page lacks them, where there are any.
+void ReportLostCharacters(const CodePage& codePage, std::ostream& err);
 
 }  // namespace wxbrg::cli

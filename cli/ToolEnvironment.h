@@ -14,7 +14,7 @@
 namespace wxbrg::cli {
 
 /// What the command line tool needs of the system and of the repository providers. Only the place that puts
-/// them together (cli/System.h) knows their classes. What stands as a reference outlives the tool.
+/// them together (cli/System.h) knows their classes. What is a reference outlives the tool.
 struct ToolEnvironment {
     std::ostream& out;
     std::ostream& err;

@@ -18,7 +18,7 @@ constexpr const char* description =
 constexpr const char* footer =
     "Started by ARIS with the switches /USR, /DB, /SVR, /REG, /SEL and /LOC, the program runs the\n"
     "interactive export instead: options dialog, file dialog, export.\n"
-    "The manual page wxbrg(1) tells more.\n";
+    "The manual page wxbrg(1) has more.\n";
 
 CLI::App* AddSubcommand(CLI::App& app, const char* name, const char* text, Subcommand subcommand,
                         ToolArguments& arguments) {
@@ -105,10 +105,10 @@ void AddProfile(CLI::App& app, ToolArguments& arguments) {
     CLI::App* print = AddAction(command, "print", "Print the mapping rules in force as a profile",
                                 ProfileOperation::print, given.operation);
     AddRules(*print, "--default", given.rules);
-    CLI::App* check = AddAction(command, "check", "Tell what is wrong or doubtful in a profile",
+    CLI::App* check = AddAction(command, "check", "Report what is wrong or doubtful in a profile",
                                 ProfileOperation::check, given.operation);
     check->add_option("FILE", given.file, "Mapping profile to check")->required();
-    CLI::App* diff = AddAction(command, "diff", "Tell what a profile changes, rule by rule",
+    CLI::App* diff = AddAction(command, "diff", "Show what a profile changes, rule by rule",
                                ProfileOperation::diff, given.operation);
     diff->add_option("FILE", given.file, "Mapping profile that changes something")->required();
     diff->add_option("BASE", given.base, "Mapping profile to compare with; the built-in rules if not given");

@@ -4,8 +4,8 @@ namespace wxbrg {
 
 class clsPROCESS;
 
-/// Finds the data connectors of a process, hangs them on its activities and fills them, as far as they can be
-/// filled before the process has its containers.
+/// Finds the data connectors of a process, attaches them to its activities and fills them, as far as they can
+/// be filled before the process has its containers.
 void DATA_CONNECTOR_Create(clsPROCESS& Process);
 /// In three passes over the activities: connectors between two of them, then those by which data enters that
 /// no activity writes, then those by which data leaves that no activity reads.

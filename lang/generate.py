@@ -3,7 +3,7 @@
 
 usage: generate.py CATALOGUE LANGUAGE OUTPUT
 
-CATALOGUE is messages.txt, which tells its form at its top. LANGUAGE is one of the languages declared there,
+CATALOGUE is messages.txt, which describes its form at its top. LANGUAGE is one of the languages declared there,
 or TST, whose text of number N is "N|%1$s|%2$s|%3$s|%4$s". The whole catalogue is checked whichever language
 is asked for: each thing wrong with it goes to stderr as "FILE:LINE: what is wrong", nothing is written then,
 and the exit status is 1.
@@ -51,7 +51,7 @@ class Text:
         return set(PLACEHOLDER.findall(self.source))
 
     def access_keys(self):
-        """What stands behind each & that marks an access key; nothing behind one that ends the text."""
+        """What follows each & that marks an access key; nothing behind one that ends the text."""
         return [key for key in ACCESS_KEY.findall(self.source) if key != "&"]
 
 
@@ -135,7 +135,7 @@ class Catalogue:
         if any(message.number == number for message in self.messages):
             self.problems.add(line, f"number {number} is there twice")
         elif number < before:
-            self.problems.add(line, f"number {number} is out of order, it stands behind {before}")
+            self.problems.add(line, f"number {number} is out of order, it comes after {before}")
         if number > HIGHEST_NUMBER:
             self.problems.add(line, f"number {number} is above {HIGHEST_NUMBER}")
         arguments = PLACEHOLDER.findall(situation)
@@ -149,7 +149,7 @@ class Catalogue:
         if language not in self.languages:
             self.problems.add(line, f"unknown language {language}")
         elif not self.messages:
-            self.problems.add(line, f"a text of {language} stands above the first number")
+            self.problems.add(line, f"a text of {language} comes before the first number")
         elif language in self.messages[-1].texts:
             self.problems.add(line, f"number {number} has a second text of {language}")
         else:

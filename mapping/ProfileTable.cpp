@@ -1,6 +1,5 @@
 #include "mapping/ProfileTable.h"
 
-
 namespace wxbrg {
 
 namespace {

@@ -19,7 +19,7 @@ constexpr std::string_view pathsProcedure = "modMappingRule.Find_Relating_Paths_
 constexpr std::string_view relationProcedure =
     "modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule";
 
-/// One search for all paths to an object. Told plainly, it looks for the ways on from an object again with
+/// One search for all paths to an object. Done plainly, it looks for the ways on from an object again with
 /// each way that leads there; here they are looked for once, and shared.
 class PathSearch {
   public:

@@ -11,7 +11,7 @@
 
 namespace wxbrg {
 
-/// Whether an object stands in a collection that is keyed by the Guid of ARIS objects.
+/// Whether an object is in a collection that is keyed by the Guid of ARIS objects.
 template <class Entry>
 bool ARIS_ObjDefIsMemberOfCollection(const ARISObjDef& item, const Collection<Entry>& col) {
     return Procedure("modUtilities.ARIS_ObjDefIsMemberOfCollection", [&](Frame&) {
@@ -22,7 +22,7 @@ bool ARIS_ObjDefIsMemberOfCollection(const ARISObjDef& item, const Collection<En
     });
 }
 
-/// The items of a list between its delimiters, as they stand: empty ones and one behind a last delimiter
+/// The items of a list between its delimiters, as they are: empty ones and one behind a last delimiter
 /// count. An empty list has none.
 Collection<std::string> ConvertStringListToCollection(std::string_view list, std::string_view delimiter);
 

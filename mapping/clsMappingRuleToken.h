@@ -16,7 +16,7 @@ inline constexpr std::int32_t equals = 6;
 /// One token of a mapping profile.
 class clsMappingRuleToken {
   public:
-    std::string TokenValue;  ///< keywords in upper case, all else as it stands
+    std::string TokenValue;  ///< keywords in upper case, all else as it is
     std::int32_t TokenType = 0;
 };
 

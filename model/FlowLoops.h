@@ -8,8 +8,8 @@
 
 namespace wxbrg {
 
-/// The connectors of a process as a graph of its objects, to tell whether a new connector closes a circle.
-/// Connectors are added in the order of their creation, each after its own test.
+/// The connectors of a process as a graph of its objects, to find out whether a new connector closes a
+/// circle. Connectors are added in the order of their creation, each after its own test.
 ///
 /// Cost of a test: linear in the connectors that its walk meets, without recursion.
 class FlowLoops {

@@ -13,7 +13,7 @@ namespace wxbrg {
 class clsPROCESS;
 
 /// An edge between two activities of a process: what a chain of events and rule objects collapses into. What
-/// these said lives on in the condition, and where they stood in the bend point.
+/// these said lives on in the condition, and where they were in the bend point.
 class clsCONTROL_CONNECTOR {
   public:
     ARISObjDef FROM_ARISObjectDefinition;

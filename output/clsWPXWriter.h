@@ -18,15 +18,15 @@ class clsPROCESS_CATEGORY;
 class clsPROGRAM;
 class clsROLE;
 
-/// Writes the definition file in the language WPX, once all objects stand. It decides nothing about content:
-/// a property holds the exact text to print, and a line with an empty one is not printed. Each block is built
-/// as one string and written by one call, so that the file holds whole blocks however the run ends.
+/// Writes the definition file in the language WPX, once all objects are complete. It decides nothing about
+/// content: a property holds the exact text to print, and a line with an empty one is not printed. Each block
+/// is built as one string and written by one call, so that the file holds whole blocks however the run ends.
 class clsWPXWriter {
   public:
     void WriteWPXHeader();
     void WriteSectionHeader(std::string_view Title);
-    /// The whole file: what a block refers to stands in front of it, but for references between persons and
-    /// between organizations, which stand in UPDATE blocks behind. Ends the log with the note 3110.
+    /// The whole file: what a block refers to comes before it, but for references between persons and
+    /// between organizations, which are in UPDATE blocks behind. Ends the log with the note 3110.
     void WriteAll();
 
     // Each writes a section and returns how many objects it wrote; a second pass with `Update` counts none.

@@ -6,7 +6,7 @@
 
 namespace wxbrg {
 
-/// The system's active code page: how the bytes of files stand to the text in memory.
+/// The system's active code page: how the bytes of files relate to the text in memory.
 class CodePage {
   public:
     virtual ~CodePage() = default;

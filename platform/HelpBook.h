@@ -18,7 +18,7 @@ struct HelpPage {
 };
 
 /// A help file: pages of Markdown in UTF-8. A page begins behind a line `<!-- page 50003 -->` and goes to the
-/// next such line; what stands before the first one belongs to no page. Other lines that are a comment as a
+/// next such line; what comes before the first one belongs to no page. Other lines that are a comment as a
 /// whole are left out, except within a fenced block. Where a number comes twice, the first page counts.
 class HelpBook {
   public:

@@ -11,16 +11,16 @@ namespace wxbrg {
 /// What a control of the options form is.
 enum class FormControlKind { tab, checkBox, optionButton, textField, label, frame, button };
 
-/// The page of what stands on no page of the form.
+/// The page of what is on no page of the form.
 inline constexpr std::int32_t noPage = -1;
 
 /// One control of the options form as a view shows it: a row of the form's table and its present state.
 struct FormControlRow {
     std::string_view name;  ///< "cbConvertARISNames"
     FormControlKind kind;
-    std::int32_t page = noPage;     ///< the tab it stands on, from 0; a tab's own number for a tab
-    std::string_view frame = {};    ///< name of the frame it stands in; empty: in none
-    std::string caption = {};       ///< as the language library has it: "&" stands in front of the access key
+    std::int32_t page = noPage;     ///< the tab it is on, from 0; a tab's own number for a tab
+    std::string_view frame = {};    ///< name of the frame it is in; empty: in none
+    std::string caption = {};       ///< as the language library has it: "&" comes before the access key
     std::int32_t helpNumber = 0;    ///< page of the help; 0: none
     std::size_t maximumLength = 0;  ///< text fields: characters
     bool enabled = true;
@@ -39,8 +39,8 @@ struct FormFont {
     bool underline = false;
 };
 
-/// What a view asks of the form that it shows. Each call may throw: a view that stands on foreign code keeps
-/// what is thrown and lets it go behind that code.
+/// What a view asks of the form that it shows. Each call may throw: a view that is built on foreign code
+/// keeps what is thrown and lets it go behind that code.
 class OptionsFormEvents {
   public:
     virtual ~OptionsFormEvents() = default;

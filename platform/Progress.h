@@ -5,7 +5,7 @@
 
 namespace wxbrg {
 
-/// Hears how far a run has come. Telling costs little; showing is up to the front end.
+/// Receives how far a run has come. A report costs little; showing is up to the front end.
 class Progress {
   public:
     virtual ~Progress() = default;

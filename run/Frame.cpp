@@ -17,7 +17,7 @@ namespace {
 /// A warning came up where no statement can be passed over: a mistake in the program, not in the model.
 void StopInTestBuild([[maybe_unused]] const Failure& failure) {
 #ifdef WXBRG_TEST_BUILD
-    std::fprintf(stderr, "slip of the program: warning %d reached the frame of %s outside a step\n",
+    std::fprintf(stderr, "bug in the program: warning %d reached the frame of %s outside a step\n",
                  static_cast<int>(failure.Number), std::string(gBlock.gCurrentProcedure).c_str());
     std::abort();
 #endif

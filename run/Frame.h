@@ -22,7 +22,7 @@
 /// do. The name is not restored on a failing way out: the box that comes next shows the innermost name.
 namespace wxbrg {
 
-/// Ends the run from wherever it stands: everything unwinds, nothing more is written. Only the entry of the
+/// Ends the run from wherever it is: everything unwinds, nothing more is written. Only the entry of the
 /// run catches it.
 struct RunEnd {
     RunEnding ending;
@@ -86,7 +86,7 @@ class Frame {
     void LeaveByCurrentException();
 
   private:
-    /// What is kept of the stack for telling the user.
+    /// What is kept of the stack for reporting to the user.
     static constexpr std::size_t stackReserve = std::size_t{512} * 1024;
 
     /// Thrown out of the body to leave its procedure; caught by that procedure's own frame.

@@ -38,7 +38,7 @@ enum class RunEnding {
     endedByFailure,  ///< the failure's number says that the run ends
     unknownFailure,  ///< a failure whose number nothing is known of
     noLanguageLibrary,
-    error,  ///< the program itself failed: a slip, or a failure before failures can be handled
+    error,  ///< the program itself failed: a bug, or a failure before failures can be handled
 };
 
 /// A count for each severity.
@@ -51,7 +51,7 @@ struct SeverityCounts {
     bool operator==(const SeverityCounts&) const = default;
 };
 
-/// What there is to tell of a run that is over.
+/// The report of a run that is over.
 struct RunReport {
     RunEnding ending = RunEnding::normal;
     std::int32_t number = 0;  ///< of the failure that ended the run
@@ -66,7 +66,7 @@ struct RunReport {
 };
 
 /// One whole export, from the language library to the end of the run: the entry that every front end goes
-/// through. It never throws for what goes wrong in the run; the report tells. The global block is made anew.
+/// through. It never throws for what goes wrong in the run; the report says. The global block is made anew.
 RunReport RunExport(const RunRequest& request, Platform& platform, aris::Automation& automation);
 
 /// What the rules in force say of model types.
@@ -76,7 +76,7 @@ struct ProcessTypes {
 };
 
 /// Reads the rules as a run does, from the platform's mapping profile or the default table, with the boxes
-/// that this brings, and tells which models are processes. The global block is made anew.
+/// that this brings, and says which models are processes. The global block is made anew.
 ProcessTypes ReadProcessTypes(Platform& platform);
 
 }  // namespace wxbrg

@@ -13,7 +13,7 @@ namespace wxbrg {
 namespace {
 
 constexpr std::string_view lineEnd = "\r\n";
-/// Stands in a box text where the message number comes.
+/// Marks in a box text where the message number comes.
 constexpr std::string_view messageIdMark = "<MessageID>";
 
 std::string Header(MessageWith<2> header, std::string_view procedure) {

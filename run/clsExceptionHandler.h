@@ -20,7 +20,7 @@ class clsExceptionHandler {
     /// known of shows no box here.
     FailureAction AnalyseError(std::int16_t Number, const std::string& Description);
 
-    /// Tells the user of a failure that nothing is known of, and ends the run.
+    /// Reports a failure with a number that is not known to the user, and ends the run.
     [[noreturn]] void MercyfulExit(std::string_view ProcedureName, std::int16_t Number,
                                    const std::string& Description);
 

@@ -19,7 +19,7 @@ inline constexpr std::int16_t append = 3;  ///< at the end; the file is created 
 
 /// The only class that touches files: the output, its log and the mapping profile. Text in files is in the
 /// active code page, each printed text is followed by CR LF. No file stays open between two calls, so that
-/// whatever is written stands, however the run ends. A failure of the system ends the run with its number
+/// whatever is written stays, however the run ends. A failure of the system ends the run with its number
 /// (53, 61, 75 or 76) and the file's name.
 class clsIOHandler {
   public:

@@ -42,7 +42,7 @@ struct GlobalBlock {
     Platform* gPlatform = nullptr;
     aris::Automation* gAutomation = nullptr;
     const RunRequest* gRunRequest = nullptr;
-    /// What is told of the run when it is over; counted by the logic as it goes.
+    /// The report of the run; counted by the logic as it goes.
     RunReport gRunReport;
     /// Lowest address of the run's stack; null where the run has no stack of its own, and none is checked.
     const char* gStackEnd = nullptr;
@@ -97,7 +97,7 @@ struct GlobalBlock {
 
     // The registries of workflow objects, each keyed by the Guid of the mapped ARIS item.
     Collection<Ref<clsDATA_MEMBER>> gColDATA_MEMBER;
-    Collection<Ref<clsDATA_STRUCTURE>> gColDATA_STRUCTURE;  ///< generated structures stand without a key
+    Collection<Ref<clsDATA_STRUCTURE>> gColDATA_STRUCTURE;  ///< generated structures have no key
     Ref<StructureIndex> gStructureIndex;                    ///< finds structures by their members
     Collection<Ref<clsORGANIZATION>> gColORGANIZATION;
     Collection<Ref<clsPERSON>> gColPERSON;

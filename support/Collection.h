@@ -91,7 +91,7 @@ class Collection {
             ++position_;
             return *this;
         }
-        /// Two places are equal where both have no entry left at this moment, or stand at the same one.
+        /// Two places are equal where both have no entry left at this moment, or point to the same one.
         bool operator==(const Walk& other) const {
             return IsOver() == other.IsOver() && (IsOver() || position_ == other.position_);
         }

@@ -16,7 +16,7 @@ bool IsDigit(char byte) {
     return byte >= '0' && byte <= '9';
 }
 
-/// Reads a number as `IsNumeric` tells and keeps it in the form that std::from_chars takes.
+/// Reads a number as `IsNumeric` says and keeps it in the form that std::from_chars takes.
 class NumberReader {
   public:
     NumberReader(std::string_view text, char32_t decimalSeparator) : rest_(Trim(text)) {

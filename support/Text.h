@@ -57,7 +57,7 @@ bool IsUtf8(std::string_view text);
 /// The text with each byte that is no UTF-8 replaced by U+FFFD.
 std::string ValidUtf8(std::string_view text);
 
-/// The character at `position` (in bytes, below the text's size), which then stands behind it. A byte that
+/// The character at `position` (in bytes, below the text's size), which is then moved behind it. A byte that
 /// begins no valid character is read as U+FFFD and passed over alone.
 char32_t TakeCharacter(std::string_view text, std::size_t& position);
 

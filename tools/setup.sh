@@ -58,7 +58,7 @@ build() {
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
-# run_tests PRESET: runs every test of build/PRESET, side by side on all cores. The last line tells how many passed,
+# run_tests PRESET: runs every test of build/PRESET, side by side on all cores. The last line says how many passed,
 # failed and were skipped, the lines above it why.
 run_tests() {
     say "Testing the preset $1"

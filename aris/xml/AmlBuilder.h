@@ -15,7 +15,7 @@ namespace wxbrg::xml {
 /// Collects what an export holds, in the order of the file, and makes the store of it at the end, when every
 /// reference can be resolved. What refers to nothing is left out and counted.
 ///
-/// Begin and End of groups nest; between those of a definition or a model stands no other item.
+/// Begin and End of groups nest; no other item lies between those of a definition or a model.
 class AmlBuilder {
   public:
     explicit AmlBuilder(TypeTable types);

@@ -8,7 +8,7 @@ namespace wxbrg::xml {
 
 namespace {
 
-/// The ranges of `owners` owners whose parts lie together in the order of the owners; `ownerOf(part)` tells
+/// The ranges of `owners` owners whose parts lie together in the order of the owners; `ownerOf(part)` gives
 /// whose a part is.
 template <class OwnerOf>
 std::vector<Range> RangesByOwner(std::size_t owners, std::size_t parts, OwnerOf ownerOf) {

@@ -7,7 +7,7 @@
 
 namespace wxbrg::xml {
 
-/// Makes the indexes of a store that holds all its items. `definitionOf` tells the definition of each
+/// Makes the indexes of a store that holds all its items. `definitionOf` gives the definition of each
 /// occurrence, `assignedModels` the range of each definition in the store's assigned models.
 void MakeIndexes(AmlStore& store, const std::vector<std::uint32_t>& definitionOf,
                  const std::vector<Range>& assignedModels);

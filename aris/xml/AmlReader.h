@@ -12,7 +12,7 @@
 
 namespace wxbrg::xml {
 
-/// The attributes of an element that is being told: names and values in turn, then null.
+/// The attributes of an element that is being reported: names and values in turn, then null.
 class XmlAttributes {
   public:
     explicit XmlAttributes(const char* const* attributes) : attributes_(attributes) {}
@@ -26,7 +26,7 @@ class XmlAttributes {
     const char* const* attributes_;
 };
 
-/// Reads an ARIS XML export and tells the builder what it holds. Elements count only where they belong;
+/// Reads an ARIS XML export and passes what it holds to the builder. Elements count only where they belong;
 /// everything else is passed over with all that it holds.
 class AmlReader final : public XmlEvents {
   public:
@@ -42,7 +42,7 @@ class AmlReader final : public XmlEvents {
     void UnreadEntity(std::string_view name) override;
 
   private:
-    /// Where the reader stands: in an element that is read, by its name.
+    /// Where the reader is: in an element that is read, by its name.
     enum class Place : std::uint8_t {
         document,
         aml,
@@ -56,7 +56,7 @@ class AmlReader final : public XmlEvents {
         attribute,
         value,
     };
-    /// An element that is read where it stands in `parent`.
+    /// An element that is read at its place in `parent`.
     struct Child {
         Place parent;
         std::string_view name;

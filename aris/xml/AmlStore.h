@@ -24,7 +24,7 @@ struct AmlStore {
     /// The handle of an attribute that an item has no value of; lives as long as the store.
     ARISAttr Unmaintained(std::int32_t attrTypeNum) const;
 
-    std::string databaseName;  ///< empty where the export does not tell
+    std::string databaseName;  ///< empty where the export does not say
     std::string userName;      ///< likewise
     std::vector<aris::Locale> locales;
 
@@ -37,7 +37,7 @@ struct AmlStore {
     std::vector<XmlObjDef> definitions;
     std::vector<XmlObjOcc> occurrences;                          ///< those of a model together
     std::vector<XmlCxnDef> connections;                          ///< those of a source together
-    XmlGroup noGroup{ItemData{this, {}, {}}, References::none};  ///< around models that stand in no group
+    XmlGroup noGroup{ItemData{this, {}, {}}, References::none};  ///< around models that are in no group
 
     std::vector<ARISModel> modelList;
     std::vector<ARISObjDef> definitionsOfModels;  ///< by model, type number, order of the file; each once

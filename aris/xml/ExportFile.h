@@ -20,7 +20,7 @@ class ExportFile {
     std::string ReadAll();
 
     const std::string& Name() const { return name_; }
-    /// In bytes; 0 where the system does not tell.
+    /// In bytes; 0 where the system does not say.
     std::uint64_t Size() const { return size_; }
 
   private:

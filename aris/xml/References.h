@@ -28,7 +28,7 @@ class References {
     std::size_t Count() const { return targets_.size(); }
 
   private:
-    /// A place of the hash table; free where it has no slot. The hash stands here to spare a look at the id.
+    /// A place of the hash table; free where it has no slot. The hash is here to spare a look at the id.
     struct Place {
         std::uint32_t hash = 0;
         Slot slot = none;

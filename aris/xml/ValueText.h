@@ -12,7 +12,7 @@ class ValueText {
     /// Begins with nothing.
     void Clear();
 
-    /// Text that stands straight in the value. It counts unless the value holds markup.
+    /// Text that is directly in the value. It counts unless the value holds markup.
     void AddPlain(std::string_view piece);
     /// An element of the markup, at any depth: "PlainText" is a run with the text `run`, "LineBreak" and each
     /// "Paragraph" after the first a line break. An element that is no markup changes nothing.

@@ -12,7 +12,7 @@ namespace wxbrg {
 /// The application and its component: opens files, and keeps what it has opened.
 class XmlAutomation::Files final : public aris::Application, public aris::ReportComponent {
   public:
-    /// `fileOf` tells the file that a database is.
+    /// `fileOf` gives the file that a database is.
     Files(std::function<std::string(std::string_view)> fileOf, std::string typesFile,
           aris::LoadProgress progress)
         : fileOf_(std::move(fileOf)), typesFile_(std::move(typesFile)), progress_(std::move(progress)) {}

@@ -49,7 +49,7 @@ class XmlAttribute final : public aris::Attribute {
     std::uint32_t order_;
 };
 
-/// Whether a value stands before another in an item's values: by locale, then by attribute type.
+/// Whether a value comes before another in an item's values: by locale, then by attribute type.
 bool StandsBefore(const XmlAttribute& a, const XmlAttribute& b);
 
 /// What models, groups and object definitions have in common.
@@ -168,7 +168,7 @@ class XmlObjOcc final : public aris::ObjOcc {
     std::uint32_t model_;
 };
 
-/// An occurrence of a connection has nothing to tell, so that one object stands for all of them.
+/// An occurrence of a connection has no data of its own, so that one object stands for all of them.
 class XmlCxnOcc final : public aris::CxnOcc {};
 
 class XmlCxnDef final : public aris::CxnDef {

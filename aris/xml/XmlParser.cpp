@@ -64,7 +64,7 @@ bool IsPredefined(std::string_view entity) {
 /// What expat calls. An exception is kept, and the parsing stopped.
 struct XmlParser::Callbacks {
     template <class Event>
-    static void Tell(XmlParser& self, Event event) {
+    static void Report(XmlParser& self, Event event) {
         if (self.thrown_) return;
         try {
             event();
@@ -77,19 +77,19 @@ struct XmlParser::Callbacks {
 
     static void XMLCALL Start(void* data, const char* name, const char** attributes) {
         XmlParser& self = Self(data);
-        Tell(self, [&] {
+        Report(self, [&] {
             self.events_.StartElement(name, attributes);
         });
     }
     static void XMLCALL End(void* data, const char*) {
         XmlParser& self = Self(data);
-        Tell(self, [&] {
+        Report(self, [&] {
             self.events_.EndElement();
         });
     }
     static void XMLCALL Characters(void* data, const char* text, int length) {
         XmlParser& self = Self(data);
-        Tell(self, [&] {
+        Report(self, [&] {
             self.events_.CharacterData({text, static_cast<std::size_t>(length)});
         });
     }
@@ -97,21 +97,21 @@ struct XmlParser::Callbacks {
                                        const char*, const char*, const char*, const char*) {
         XmlParser& self = Self(data);
         if (isParameter == 0 && value != nullptr)
-            Tell(self, [&] {
+            Report(self, [&] {
                 self.entities_.emplace(name);
             });
     }
     static void XMLCALL EntitySkipped(void* data, const char* name, int isParameter) {
         XmlParser& self = Self(data);
         if (isParameter == 0)
-            Tell(self, [&] {
+            Report(self, [&] {
                 self.events_.UnreadEntity(name);
             });
     }
     static int XMLCALL EntityOutside(XML_Parser parser, const char* name, const char*, const char*,
                                      const char*) {
         XmlParser& self = Self(XML_GetUserData(parser));
-        Tell(self, [&] {
+        Report(self, [&] {
             self.events_.UnreadEntity(name);
         });
         return XML_STATUS_OK;
@@ -148,9 +148,10 @@ void XmlParser::Parse(ExportFile& file, const aris::LoadProgress& progress) {
 
 void XmlParser::Feed(std::size_t size, bool last) {
     const XML_Status status = XML_ParseBuffer(parser_.get(), static_cast<int>(size), last ? 1 : 0);
-    // Newer versions of expat put off what is not complete until there is much more of it, and tell no place.
-    const XML_Index told = XML_GetCurrentByteIndex(parser_.get());
-    pending_ = told < 0 ? pending_ + size : fed_ - static_cast<std::uint64_t>(told);
+    // Newer versions of expat put off what is not complete until there is much more of it, and report no
+    // place.
+    const XML_Index reported = XML_GetCurrentByteIndex(parser_.get());
+    pending_ = reported < 0 ? pending_ + size : fed_ - static_cast<std::uint64_t>(reported);
     if (thrown_) std::rethrow_exception(thrown_);
     if (status != XML_STATUS_OK) FailAsParser(XML_GetErrorCode(parser_.get()), last);
     // The tag around a value of the largest size is a little larger.

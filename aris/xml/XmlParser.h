@@ -43,11 +43,12 @@ class XmlParser {
     /// what to do, failure 75 when the file cannot be read on, and what the events throw.
     void Parse(ExportFile& file, const aris::LoadProgress& progress);
 
-    /// Throws failure 321 at the place of the event that is being told.
+    /// Throws failure 321 at the place of the event that is being reported.
     [[noreturn]] void Fail(std::string_view reason, std::string_view whatToDo) const;
 
-    /// Throws failure 321 if an attribute of the element whose start is being told refers to an entity that
-    /// the document does not declare: expat leaves such a reference out where a DTD might have declared it.
+    /// Throws failure 321 if an attribute of the element whose start is being reported refers to an entity
+    /// that the document does not declare: expat leaves such a reference out where a DTD might have declared
+    /// it.
     void RequireDeclaredEntities() const;
 
   private:
@@ -66,7 +67,7 @@ class XmlParser {
     std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser_;
     std::string fileName_;
     std::uint64_t fed_ = 0;
-    std::uint64_t pending_ = 0;  ///< the bytes that expat was given and has not told of yet
+    std::uint64_t pending_ = 0;  ///< the bytes that expat was given and has not reported yet
     std::exception_ptr thrown_;  // by an event; no exception crosses expat
     std::unordered_set<std::string, Hash, std::equal_to<>> entities_;
 };

@@ -16,7 +16,7 @@ class IconvCodePage : public CodePage {
     explicit IconvCodePage(std::uint32_t number);
 
     /// Whether the system knows the code page, and files can be in it: the letters and digits of ASCII, the
-    /// blank and the line breaks stand as in ASCII.
+    /// blank and the line breaks are those of ASCII.
     static bool IsSupported(std::uint32_t number);
 
     std::uint32_t Number() const override { return number_; }

@@ -34,7 +34,7 @@ class PosixFile : public File {
     }
 
   private:
-    /// Throws the failure that `errno` tells of.
+    /// Throws the failure that `errno` stands for.
     [[noreturn]] void Fail() const { throw Failure(FailureNumberOf(errno, name_), name_); }
 
     std::string name_;

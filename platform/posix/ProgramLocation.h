@@ -12,7 +12,7 @@ struct ProgramLocation {
 
 /// The location of the running program, with symbolic links on the way to it resolved: what belongs to the
 /// program lies beside the program itself. Throws `std::filesystem::filesystem_error` where the system does
-/// not tell.
+/// not say.
 ProgramLocation RunningProgram();
 
 }  // namespace wxbrg

@@ -32,7 +32,7 @@ struct ScriptedAnswer {
     ScriptedAction action;
     std::string text = {};
     BoxAnswer question = BoxAnswer::yes;
-    std::size_t line = 0;  ///< of the script, from 1; 0 for an answer that stands in none
+    std::size_t line = 0;  ///< of the script, from 1; 0 for an answer that is in none
 };
 
 /// The answers to all dialogs of a run, which are taken strictly in their order. The dialogs share one

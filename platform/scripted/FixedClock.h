@@ -4,7 +4,7 @@
 
 namespace wxbrg {
 
-/// A clock that stands still.
+/// A clock that does not move.
 class FixedClock : public Clock {
   public:
     explicit FixedClock(LocalTime time) : time_(time) {}

@@ -28,7 +28,8 @@ std::string LineOf(const std::string& name, const ProfileValue& value) {
         return name + "=" + std::to_string(*number) + "\n";
     const auto& text = std::get<std::string>(value);
     if (text.find_first_of("\r\n") != std::string::npos)
-        throw ScriptError("the stored text \"" + name + "\" holds a line break and cannot be told on a line");
+        throw ScriptError("the stored text \"" + name +
+                          "\" holds a line break and cannot be written on one line");
     return name + "=" + std::string(textMark) + text + "\n";
 }
 

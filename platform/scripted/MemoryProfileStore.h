@@ -9,7 +9,7 @@ namespace wxbrg {
 
 /// A store that lives in memory and forgets all when it goes.
 ///
-/// The values of a key can be read and told as lines "Name=number" and "Name=s:text", with the number in
+/// The values of a key can be read and written as lines "Name=number" and "Name=s:text", with the number in
 /// decimal.
 class MemoryProfileStore : public ProfileStore {
   public:

@@ -4,7 +4,7 @@
 
 namespace wxbrg {
 
-/// Hears how far a run has come and shows nothing.
+/// Receives how far a run has come and shows nothing.
 class NoProgress : public Progress {
   public:
     void Report(std::string_view /*stage*/, std::uint64_t /*done*/, std::uint64_t /*total*/) override {}

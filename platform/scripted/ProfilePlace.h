@@ -9,7 +9,7 @@
 
 namespace wxbrg {
 
-/// Where a stored value stands, in a form that compares: names are folded, and a key has no backslash at its
+/// Where a stored value is, in a form that compares: names are folded, and a key has no backslash at its
 /// end.
 struct ProfilePlace {
     ProfilePlace(std::string_view keyPath, std::string_view valueName)

@@ -1,7 +1,13 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
 #include <set>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "tests/architecture/Includes.h"
 #include "tests/architecture/SourceTree.h"
@@ -60,6 +66,35 @@ TEST(Tree, NoSourceIsLongerThanSixHundredLines) {
         if (file.path.ends_with(".h") || file.path.ends_with(".cpp")) {
             EXPECT_LE(LineCount(file.text), 600U) << file.path << " would be clearer as two files";
         }
+}
+
+/// The paths that a page names in back quotes: what holds a slash, and what ends as a file of the tree does.
+std::vector<std::string> PathsNamedIn(const std::string& page) {
+    static const std::regex path("`([A-Za-z_][A-Za-z0-9_./-]*(?:/[A-Za-z0-9_.-]*|\\.(?:h|cpp|md|sh)))`");
+    std::vector<std::string> paths;
+    for (std::sregex_iterator found(page.begin(), page.end(), path), end; found != end; ++found)
+        paths.push_back((*found)[1]);
+    return paths;
+}
+
+TEST(Tree, PathsAreFoundInAPage) {
+    EXPECT_THAT(PathsNamedIn("See `run/Frame.h`, `data/` and `run.sh`, not `Frame`, `a b/c` or run/Gone.h."),
+                testing::ElementsAre("run/Frame.h", "data/", "run.sh"));
+}
+
+TEST(Tree, EveryPathThatTheArchitecturePageNamesExists) {
+    const std::filesystem::path root(WXBRG_SOURCE_TREE);
+    std::ifstream file(root / "docs/architecture.md");
+    const std::string page(std::istreambuf_iterator<char>(file), {});
+    const std::vector<std::string> paths = PathsNamedIn(page);
+    EXPECT_GT(paths.size(), 50U);
+    for (const std::string& path : paths)
+        EXPECT_TRUE(std::filesystem::exists(root / path)) << "docs/architecture.md names " << path;
+}
+
+TEST(Tree, TheArchitecturePageIsShort) {
+    std::ifstream file(std::filesystem::path(WXBRG_SOURCE_TREE) / "docs/architecture.md");
+    EXPECT_LE(LineCount(std::string(std::istreambuf_iterator<char>(file), {})), 250U);
 }
 
 TEST(Tree, NothingIsMarkedAsUnfinished) {

@@ -60,24 +60,24 @@ TEST(ExitStatusOf, AFailureGoesBeforeAWarning) {
     EXPECT_EQ(ExitStatusOf(report, true), 1);
 }
 
-TEST(TellProgramFailure, TellsAnErrorOfTheProgramOnly) {
+TEST(ReportProgramFailure, TellsAnErrorOfTheProgramOnly) {
     std::ostringstream err;
     RunReport report = EndedBy(RunEnding::unknownFailure, 6);
     report.error = "slip";
-    TellProgramFailure(report, err);
+    ReportProgramFailure(report, err);
     EXPECT_EQ(err.str(), "");
     report.ending = RunEnding::error;
-    TellProgramFailure(report, err);
+    ReportProgramFailure(report, err);
     EXPECT_EQ(err.str(), "wxbrg: slip\n");
 }
 
-TEST(TellLostCharacters, CountsWhatTheCodePageLacks) {
+TEST(ReportLostCharacters, CountsWhatTheCodePageLacks) {
     IconvCodePage codePage(1252);
     std::ostringstream err;
-    TellLostCharacters(codePage, err);
+    ReportLostCharacters(codePage, err);
     EXPECT_EQ(err.str(), "");
     codePage.ToBytes("aΩb中");
-    TellLostCharacters(codePage, err);
+    ReportLostCharacters(codePage, err);
     EXPECT_THAT(err.str(), AllOf(HasSubstr("1252"), HasSubstr("2 characters")));
 }
 

@@ -112,7 +112,7 @@ class Rejections(GeneratorTest):
 
     def test_text_above_the_first_number(self):
         self.assert_rejected(LANGUAGES + "ENU  a\n2010  x\nENU  a\nDEU  a\n",
-                             "3: a text of ENU stands above the first number")
+                             "3: a text of ENU comes before the first number")
 
     def test_duplicate_number(self):
         self.assert_rejected(LANGUAGES + "1  x\nENU  a\nDEU  a\n2  x\nENU  a\nDEU  a\n1  x\nENU  a\nDEU  a\n",
@@ -120,7 +120,7 @@ class Rejections(GeneratorTest):
 
     def test_number_out_of_order(self):
         self.assert_rejected(LANGUAGES + "20  x\nENU  a\nDEU  a\n10  x\nENU  a\nDEU  a\n",
-                             "6: number 10 is out of order, it stands behind 20")
+                             "6: number 10 is out of order, it comes after 20")
 
     def test_number_out_of_range(self):
         self.assert_rejected(LANGUAGES + "65536  x\nENU  a\nDEU  a\n", "3: number 65536 is above 65535")
@@ -229,7 +229,7 @@ class Rejections(GeneratorTest):
                              "4: the text of 2 in ENU has %1$s, which its number's line does not name",
                              "5: the text of 2 in DEU has the placeholders none, not %1$s as in ENU",
                              "5: the text of 2 in DEU has \\q, only \\n and \\\\ are known",
-                             "6: number 1 is out of order, it stands behind 2",
+                             "6: number 1 is out of order, it comes after 2",
                              "6: number 1 has no text of ENU",
                              "8: malformed line, neither language, number, text nor continuation: ???")
 
