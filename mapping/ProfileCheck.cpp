@@ -14,7 +14,7 @@
 #include "mapping/ProfileChains.h"
 #include "mapping/ProfileClauses.h"
 #include "mapping/ProfileNames.h"
-#include "mapping/ProfileReading.h"
+#include "mapping/ProfileTokenizer.h"
 #include "mapping/RuleTable.h"
 #include "support/Text.h"
 
@@ -217,15 +217,15 @@ std::vector<ProfileFinding> CheckProfile(std::string_view text, char32_t decimal
                  {},
                  "the file is empty; a run warns with 2210 and takes the built-in "
                  "rules. Take the file away, or fill it"}};
-    const ProfileReading reading = ReadProfile(text, decimalSeparator);
-    if (reading.tokens.empty())
+    const ProfileTokens tokens = TokenizeProfile(text, decimalSeparator);
+    if (tokens.tokens.empty())
         return {{FindingSeverity::error,
                  {},
                  "there is no rule in the file, and a run ends with 2100 at the first "
                  "one that it asks for. Take the file away, or fill it"}};
-    ProfileClauses clauses = ReadClauses(reading, decimalSeparator);
+    ProfileClauses clauses = ReadClauses(tokens, decimalSeparator);
     std::vector<ProfileFinding> findings = clauses.findings;
-    std::vector<ProfileFinding> ofRules = RuleCheck(clauses, reading.end).Findings();
+    std::vector<ProfileFinding> ofRules = RuleCheck(clauses, tokens.end).Findings();
     std::move(ofRules.begin(), ofRules.end(), std::back_inserter(findings));
     SortByPlace(findings);
     return findings;
@@ -233,7 +233,7 @@ std::vector<ProfileFinding> CheckProfile(std::string_view text, char32_t decimal
 
 ProfileRules ReadProfileRules(std::string_view text, char32_t decimalSeparator) {
     if (text.empty()) return {BuiltInRules(), {}};
-    const ProfileClauses clauses = ReadClauses(ReadProfile(text, decimalSeparator), decimalSeparator);
+    const ProfileClauses clauses = ReadClauses(TokenizeProfile(text, decimalSeparator), decimalSeparator);
     ProfileRules result;
     std::copy_if(clauses.findings.begin(), clauses.findings.end(), std::back_inserter(result.mistakes),
                  [](const ProfileFinding& finding) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "mapping/ProfileReading.h"
+#include "mapping/clsMappingRuleToken.h"
 #include "support/Text.h"
 
 namespace wxbrg {

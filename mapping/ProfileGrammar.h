@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "mapping/clsMappingRuleToken.h"
@@ -17,134 +20,242 @@ inline constexpr auto profileKeywords = std::to_array<std::string_view>(
      "SOURCE_OBJECT_TYPE", "TARGET_OBJECT_TYPE", "CONNECTION_KIND", "CONNECTION_TYPE", "TARGET_OBJECT_RULE",
      "END"});
 
-/// What an accepted token does, in front of the change of state. "Finish" adds the object or connection
-/// mapping under way to the rule under way.
+/// What is due next. A state that takes one sort of token is named after it; one that takes keywords, after
+/// the first of them or after what they come behind.
+enum class ProfileState : std::int32_t {
+    ruleSort,  ///< between two rules
+    objectName,
+    objectType,
+    objectTypeEquals,
+    objectTypeNumber,
+    behindObjectType,
+    attributeName,
+    attributeType,
+    attributeTypeEquals,
+    attributeTypeNumber,
+    behindAttributeType,
+    connectionName,
+    sourceType,
+    sourceTypeEquals,
+    sourceTypeNumber,
+    targetType,
+    targetTypeEquals,
+    targetTypeNumber,
+    connectionKind,
+    connectionKindEquals,
+    connectionKindNumber,
+    connectionType,
+    connectionTypeEquals,
+    connectionTypeNumber,
+    behindConnectionType,
+    targetRuleEquals,
+    targetRuleName,
+    behindTargetRule,
+};
+
+/// What an accepted token does, in front of the change of state.
 enum class ProfileAction {
     none,
     newRule,
-    newObjectMapping,  ///< with its type
-    finishObject,
-    finishObjectAndRule,  ///< and adds the rule to the table; so the next two that end in "Rule"
+    addType,
     setAttribute,
-    addRuleUnguarded,  ///< adds the rule to the table; a name that is taken is an unknown failure
-    newConnection,
+    newStep,
     setSource,
     setTarget,
     setKind,
     setConnectionType,
     setTargetRule,
-    finishConnectionAndRule,
-    finishConnectionAndStartNext,
+    addRule,           ///< the rule is complete; of two rules of a name the first one counts
+    addRuleUnguarded,  ///< likewise; but a name that is taken is an unknown failure
 };
 
 /// One accepted token of a state.
 struct ProfileRow {
-    std::int32_t state;
-    std::int32_t tokenType;
+    ProfileState state;
+    TokenType tokenType;
     std::string_view keyword;  ///< for a token that is a keyword
     ProfileAction action;
-    std::int32_t nextState;
+    ProfileState nextState;
+
+    constexpr bool Accepts(TokenType type, std::string_view value) const {
+        return type == tokenType && (type != TokenType::keyword || value == keyword);
+    }
 };
 
 /// What any other token of a state fails with.
 struct ProfileFailure {
+    ProfileState state;
     Message message;
     std::string_view expected;  ///< second argument of the failure 2130
 };
 
 namespace profileGrammar {
+using enum ProfileState;
 using enum ProfileAction;
-inline constexpr std::int32_t key = TokenType::keyword;
-inline constexpr std::int32_t word = TokenType::word;
-inline constexpr std::int32_t number = TokenType::number;
-inline constexpr std::int32_t equals = TokenType::equals;
+inline constexpr TokenType key = TokenType::keyword;
+inline constexpr TokenType word = TokenType::word;
+inline constexpr TokenType number = TokenType::number;
+inline constexpr TokenType equals = TokenType::equals;
 
 // clang-format off
 inline constexpr auto rows = std::to_array<ProfileRow>({
-    { 0, key,    "OBJECT_MAPPING",     none,                          1},
-    { 0, key,    "ATTRIBUTE_MAPPING",  none,                          6},
-    { 0, key,    "CONNECTION_MAPPING", none,                         11},
-    { 1, word,   "",                   newRule,                       2},
-    { 2, key,    "OBJECT_TYPE",        none,                          3},
-    { 3, equals, "",                   none,                          4},
-    { 4, number, "",                   newObjectMapping,              5},
-    { 5, key,    "END",                finishObjectAndRule,           0},
-    { 5, key,    "OBJECT_TYPE",        finishObject,                  3},
-    { 6, word,   "",                   newRule,                       7},
-    { 7, key,    "ATTRIBUTE_TYPE",     none,                          8},
-    { 8, equals, "",                   none,                          9},
-    { 9, number, "",                   setAttribute,                 10},
-    {10, key,    "END",                addRuleUnguarded,              0},
-    {11, word,   "",                   newRule,                      12},
-    {12, key,    "SOURCE_OBJECT_TYPE", newConnection,                13},
-    {13, equals, "",                   none,                         14},
-    {14, number, "",                   setSource,                    15},
-    {15, key,    "TARGET_OBJECT_TYPE", none,                         16},
-    {16, equals, "",                   none,                         17},
-    {17, number, "",                   setTarget,                    18},
-    {18, key,    "CONNECTION_KIND",    none,                         19},
-    {19, equals, "",                   none,                         20},
-    {20, number, "",                   setKind,                      21},
-    {21, key,    "CONNECTION_TYPE",    none,                         22},
-    {22, equals, "",                   none,                         23},
-    {23, number, "",                   setConnectionType,            24},
-    {24, key,    "END",                finishConnectionAndRule,       0},
-    {24, key,    "SOURCE_OBJECT_TYPE", finishConnectionAndStartNext, 13},
-    {24, key,    "TARGET_OBJECT_RULE", none,                         25},
-    {25, equals, "",                   none,                         26},
-    {26, word,   "",                   setTargetRule,                27},
-    {27, key,    "SOURCE_OBJECT_TYPE", finishConnectionAndStartNext, 13},
-    {27, key,    "END",                finishConnectionAndRule,       0},
+    {ruleSort,             key,    "OBJECT_MAPPING",     none,              objectName},
+    {ruleSort,             key,    "ATTRIBUTE_MAPPING",  none,              attributeName},
+    {ruleSort,             key,    "CONNECTION_MAPPING", none,              connectionName},
+    {objectName,           word,   "",                   newRule,           objectType},
+    {objectType,           key,    "OBJECT_TYPE",        none,              objectTypeEquals},
+    {objectTypeEquals,     equals, "",                   none,              objectTypeNumber},
+    {objectTypeNumber,     number, "",                   addType,           behindObjectType},
+    {behindObjectType,     key,    "END",                addRule,           ruleSort},
+    {behindObjectType,     key,    "OBJECT_TYPE",        none,              objectTypeEquals},
+    {attributeName,        word,   "",                   newRule,           attributeType},
+    {attributeType,        key,    "ATTRIBUTE_TYPE",     none,              attributeTypeEquals},
+    {attributeTypeEquals,  equals, "",                   none,              attributeTypeNumber},
+    {attributeTypeNumber,  number, "",                   setAttribute,      behindAttributeType},
+    {behindAttributeType,  key,    "END",                addRuleUnguarded,  ruleSort},
+    {connectionName,       word,   "",                   newRule,           sourceType},
+    {sourceType,           key,    "SOURCE_OBJECT_TYPE", newStep,           sourceTypeEquals},
+    {sourceTypeEquals,     equals, "",                   none,              sourceTypeNumber},
+    {sourceTypeNumber,     number, "",                   setSource,         targetType},
+    {targetType,           key,    "TARGET_OBJECT_TYPE", none,              targetTypeEquals},
+    {targetTypeEquals,     equals, "",                   none,              targetTypeNumber},
+    {targetTypeNumber,     number, "",                   setTarget,         connectionKind},
+    {connectionKind,       key,    "CONNECTION_KIND",    none,              connectionKindEquals},
+    {connectionKindEquals, equals, "",                   none,              connectionKindNumber},
+    {connectionKindNumber, number, "",                   setKind,           connectionType},
+    {connectionType,       key,    "CONNECTION_TYPE",    none,              connectionTypeEquals},
+    {connectionTypeEquals, equals, "",                   none,              connectionTypeNumber},
+    {connectionTypeNumber, number, "",                   setConnectionType, behindConnectionType},
+    {behindConnectionType, key,    "END",                addRule,           ruleSort},
+    {behindConnectionType, key,    "SOURCE_OBJECT_TYPE", newStep,           sourceTypeEquals},
+    {behindConnectionType, key,    "TARGET_OBJECT_RULE", none,              targetRuleEquals},
+    {targetRuleEquals,     equals, "",                   none,              targetRuleName},
+    {targetRuleName,       word,   "",                   setTargetRule,     behindTargetRule},
+    {behindTargetRule,     key,    "SOURCE_OBJECT_TYPE", newStep,           sourceTypeEquals},
+    {behindTargetRule,     key,    "END",                addRule,           ruleSort},
 });
 
-/// By state. The list of state 24 does not name END, which is accepted there all the same.
+/// The list of `behindConnectionType` does not name END, which is accepted there all the same.
 inline constexpr auto failures = std::to_array<ProfileFailure>({
-    {Message::keywordExpected, R"("OBJECT_MAPPING", "ATTRIBUTE_MAPPING", "CONNECTION_MAPPING")"},
-    {Message::ruleNameExpected, ""},
-    {Message::keywordExpected, R"("OBJECT_TYPE")"},
-    {Message::equalsExpected, ""},
-    {Message::objectTypeExpected, ""},
-    {Message::keywordExpected, R"("END", "OBJECT_TYPE")"},
-    {Message::ruleNameExpected, ""},
-    {Message::keywordExpected, R"("ATTRIBUTE_TYPE")"},
-    {Message::equalsExpected, ""},
-    {Message::attributeTypeExpected, ""},
-    {Message::keywordExpected, R"("END")"},
-    {Message::ruleNameExpected, ""},
-    {Message::keywordExpected, R"("SOURCE_OBJECT_TYPE")"},
-    {Message::equalsExpected, ""},
-    {Message::objectTypeExpected, ""},
-    {Message::keywordExpected, R"("TARGET_OBJECT_TYPE")"},
-    {Message::equalsExpected, ""},
-    {Message::objectTypeExpected, ""},
-    {Message::keywordExpected, R"("CONNECTION_KIND")"},
-    {Message::equalsExpected, ""},
-    {Message::connectionKindExpected, ""},
-    {Message::keywordExpected, R"("CONNECTION_TYPE")"},
-    {Message::equalsExpected, ""},
-    {Message::connectionTypeExpected, ""},
-    {Message::keywordExpected, R"("SOURCE_OBJECT_TYPE", "TARGET_OBJECT_RULE")"},
-    {Message::equalsExpected, ""},
-    {Message::ruleNameExpected, ""},
-    {Message::keywordExpected, R"("SOURCE_OBJECT_TYPE", "END")"},
+    {ruleSort,             Message::keywordExpected,          R"("OBJECT_MAPPING", "ATTRIBUTE_MAPPING", "CONNECTION_MAPPING")"},
+    {objectName,           Message::ruleNameExpected,         ""},
+    {objectType,           Message::keywordExpected,          R"("OBJECT_TYPE")"},
+    {objectTypeEquals,     Message::equalsExpected,           ""},
+    {objectTypeNumber,     Message::objectTypeExpected,       ""},
+    {behindObjectType,     Message::keywordExpected,          R"("END", "OBJECT_TYPE")"},
+    {attributeName,        Message::ruleNameExpected,         ""},
+    {attributeType,        Message::keywordExpected,          R"("ATTRIBUTE_TYPE")"},
+    {attributeTypeEquals,  Message::equalsExpected,           ""},
+    {attributeTypeNumber,  Message::attributeTypeExpected,    ""},
+    {behindAttributeType,  Message::keywordExpected,          R"("END")"},
+    {connectionName,       Message::ruleNameExpected,         ""},
+    {sourceType,           Message::keywordExpected,          R"("SOURCE_OBJECT_TYPE")"},
+    {sourceTypeEquals,     Message::equalsExpected,           ""},
+    {sourceTypeNumber,     Message::objectTypeExpected,       ""},
+    {targetType,           Message::keywordExpected,          R"("TARGET_OBJECT_TYPE")"},
+    {targetTypeEquals,     Message::equalsExpected,           ""},
+    {targetTypeNumber,     Message::objectTypeExpected,       ""},
+    {connectionKind,       Message::keywordExpected,          R"("CONNECTION_KIND")"},
+    {connectionKindEquals, Message::equalsExpected,           ""},
+    {connectionKindNumber, Message::connectionKindExpected,   ""},
+    {connectionType,       Message::keywordExpected,          R"("CONNECTION_TYPE")"},
+    {connectionTypeEquals, Message::equalsExpected,           ""},
+    {connectionTypeNumber, Message::connectionTypeExpected,   ""},
+    {behindConnectionType, Message::keywordExpected,          R"("SOURCE_OBJECT_TYPE", "TARGET_OBJECT_RULE")"},
+    {targetRuleEquals,     Message::equalsExpected,           ""},
+    {targetRuleName,       Message::ruleNameExpected,         ""},
+    {behindTargetRule,     Message::keywordExpected,          R"("SOURCE_OBJECT_TYPE", "END")"},
 });
 // clang-format on
 
-/// Whether every state is led to, has an accepted token, and has a failure of the sort of what it accepts.
-constexpr bool StatesHold() {
-    for (const ProfileRow& row : rows) {
-        const Message failure = failures[static_cast<std::size_t>(row.state)].message;
-        const bool fits = row.tokenType == key      ? failure == Message::keywordExpected
-                          : row.tokenType == word   ? failure == Message::ruleNameExpected
-                          : row.tokenType == equals ? failure == Message::equalsExpected
-                                                    : failure >= Message::objectTypeExpected &&
-                                                          failure <= Message::connectionTypeExpected;
-        const bool leads = row.nextState >= 0 && row.nextState < static_cast<std::int32_t>(failures.size());
-        if (!fits || !leads) return false;
-    }
-    return true;
+/// What a state accepts; one token at least.
+constexpr std::span<const ProfileRow> RowsOf(ProfileState state) {
+    const auto isOfState = [&](const ProfileRow& row) {
+        return row.state == state;
+    };
+    const auto* const first = std::find_if(rows.begin(), rows.end(), isOfState);
+    return {first, std::find_if_not(first, rows.end(), isOfState)};
 }
-static_assert(StatesHold());
+
+/// The row by which a state accepts a token; null where it does not.
+constexpr const ProfileRow* RowFor(ProfileState state, TokenType type, std::string_view value) {
+    for (const ProfileRow& row : RowsOf(state))
+        if (row.Accepts(type, value)) return &row;
+    return nullptr;
+}
+
+constexpr const ProfileFailure& FailureOf(ProfileState state) {
+    return failures[static_cast<std::size_t>(state)];
+}
+
+/// Whether each state has its failure at its index, and its rows together, in the order of the states.
+constexpr bool StatesAreInOrder() {
+    std::size_t rowCount = 0;
+    for (std::size_t i = 0; i < failures.size(); ++i) {
+        const auto state = static_cast<ProfileState>(i);
+        if (failures[i].state != state || RowsOf(state).empty()) return false;
+        if (RowsOf(state).data() != &rows[rowCount]) return false;
+        rowCount += RowsOf(state).size();
+    }
+    return rowCount == rows.size() && failures.back().state == behindTargetRule;
+}
+static_assert(StatesAreInOrder());
+
+/// Whether every state but the first is led to, and no two rows of a state accept the same token.
+constexpr bool RowsLeadOn() {
+    for (const ProfileFailure& failure : failures) {
+        const bool isLedTo = std::any_of(rows.begin(), rows.end(), [&](const ProfileRow& row) {
+            return row.nextState == failure.state && row.state != failure.state;
+        });
+        if (!isLedTo) return false;
+    }
+    return std::all_of(rows.begin(), rows.end(), [](const ProfileRow& row) {
+        return RowFor(row.state, row.tokenType, row.keyword) == &row &&
+               row.tokenType == RowsOf(row.state).front().tokenType;
+    });
+}
+static_assert(RowsLeadOn());
+
+/// Whether a keyword is named in double quotes in a list of what is expected.
+constexpr bool IsNamedIn(std::string_view expected, std::string_view keyword) {
+    const std::size_t at = expected.find(keyword);
+    return at != std::string_view::npos && at > 0 && expected[at - 1] == '"' &&
+           expected.substr(at + keyword.size()).starts_with('"');
+}
+
+/// Whether each row is of a keyword that there is and that the failure of its state names, or of none, and
+/// the failure is of the sort of what is accepted.
+constexpr bool FailuresFit() {
+    return std::all_of(rows.begin(), rows.end(), [](const ProfileRow& row) {
+        const ProfileFailure& failure = FailureOf(row.state);
+        if (row.tokenType != key) {
+            const bool fits = row.tokenType == word ? failure.message == Message::ruleNameExpected
+                              : row.tokenType == equals
+                                  ? failure.message == Message::equalsExpected
+                                  : failure.message >= Message::objectTypeExpected &&
+                                        failure.message <= Message::connectionTypeExpected;
+            return fits && row.keyword.empty() && failure.expected.empty();
+        }
+        const bool isUnnamed = row.state == behindConnectionType && row.keyword == "END";
+        return failure.message == Message::keywordExpected &&
+               IsNamedIn(failure.expected, row.keyword) != isUnnamed &&
+               std::find(profileKeywords.begin(), profileKeywords.end(), row.keyword) !=
+                   profileKeywords.end();
+    });
+}
+static_assert(FailuresFit());
+
+/// Whether no failure names what its state does not accept.
+constexpr bool FailuresNameNothingElse() {
+    return std::all_of(failures.begin(), failures.end(), [](const ProfileFailure& failure) {
+        const auto rowsOfState = RowsOf(failure.state);
+        const auto named = std::count_if(rowsOfState.begin(), rowsOfState.end(), [&](const ProfileRow& row) {
+            return row.tokenType == key && IsNamedIn(failure.expected, row.keyword);
+        });
+        return std::count(failure.expected.begin(), failure.expected.end(), '"') == 2 * named;
+    });
+}
+static_assert(FailuresNameNothingElse());
 }  // namespace profileGrammar
 
 }  // namespace wxbrg

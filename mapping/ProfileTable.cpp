@@ -8,6 +8,14 @@ std::int32_t NumberOf(const ProfileField& field) {
     return field.number.value_or(0);
 }
 
+}  // namespace
+
+RuleTable RulesOf(const Collection<Ref<clsMappingRule>>& rules) {
+    RuleTable table;
+    for (const Ref<clsMappingRule>& rule : rules) table.push_back(*rule);
+    return table;
+}
+
 clsMappingRule RuleOf(const ProfileClause& clause) {
     clsMappingRule rule;
     rule.Name = clause.name.text;
@@ -18,14 +26,6 @@ clsMappingRule RuleOf(const ProfileClause& clause) {
                                                            NumberOf(step.source), NumberOf(step.target),
                                                            step.continues.text});
     return rule;
-}
-
-}  // namespace
-
-RuleTable RulesOf(const Collection<Ref<clsMappingRule>>& rules) {
-    RuleTable table;
-    for (const Ref<clsMappingRule>& rule : rules) table.push_back(*rule);
-    return table;
 }
 
 RuleTable RulesOf(const ProfileClauses& clauses) {

@@ -16,6 +16,9 @@ using RuleTable = std::vector<clsMappingRule>;
 /// The rules of a table as a run has it.
 RuleTable RulesOf(const Collection<Ref<clsMappingRule>>& rules);
 
+/// A rule of a profile as a run takes it.
+clsMappingRule RuleOf(const ProfileClause& clause);
+
 /// The rules of a profile as a run takes them, where none of its findings says that it is unreadable.
 RuleTable RulesOf(const ProfileClauses& clauses);
 

@@ -1,16 +1,13 @@
-// How clsIOHandler finds and reads the mapping profile beside the program and cuts it into tokens.
+#include "mapping/ProfileTokenizer.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <string>
-#include <string_view>
+#include <utility>
 
-#include "mapping/ProfileFile.h"
 #include "mapping/ProfileGrammar.h"
-#include "mapping/clsMappingRuleToken.h"
-#include "run/Frame.h"
-#include "run/clsIOHandler.h"
 #include "support/Numbers.h"
 #include "support/Text.h"
 
@@ -18,114 +15,135 @@ namespace wxbrg {
 
 namespace {
 
-/// Cuts a text into tokens, from its start to its end, in time linear in its size.
-class ProfileTokenizer {
-  public:
-    explicit ProfileTokenizer(std::string_view text)
-        : text_(ToCharacters(Trim(text))), upper_(ToCharacters(UpperCase(Trim(text)))) {
-        next_.fill(0);
-    }
+constexpr std::u32string_view separators = U" \t\r\n=";
+constexpr std::u32string_view blanks = U" \t\r\n";
 
-    Collection<Ref<clsMappingRuleToken>> Tokens() {
-        while (position_ < text_.size())
-            if (!TakeKeyword() && !TakeEquals() && !TakeSeparator()) TakeWord();
-        return std::move(tokens_);
+/// The places of positions in a text, asked for in ascending order.
+class PlaceCounter {
+  public:
+    explicit PlaceCounter(std::u32string_view text) : text_(text) {}
+
+    TextPlace PlaceOf(std::size_t position) {
+        for (; position_ < position; ++position_)
+            if (EndsLine(position_)) {
+                ++line_;
+                lineStart_ = position_ + 1;
+            }
+        return {line_, position - lineStart_ + 1};
     }
 
   private:
-    static constexpr std::u32string_view separators = U" \r\n\t=";
-
-    void Add(std::int32_t type, std::string value) {
-        const Ref<clsMappingRuleToken> token = gBlock.gPool.Create<clsMappingRuleToken>();
-        token->TokenType = type;
-        token->TokenValue = std::move(value);
-        tokens_.Add(token);
+    bool EndsLine(std::size_t position) const {
+        if (text_[position] == U'\r') return !text_.substr(position + 1).starts_with(U'\n');
+        return text_[position] == U'\n';
     }
 
-    /// Passes over as many characters and the blanks behind them.
-    void Drop(std::size_t count) {
-        position_ += count;
-        while (position_ < text_.size() && text_[position_] == U' ') ++position_;
-    }
-
-    /// Whether the rest of the text, in upper case, begins with a keyword.
-    bool StartsWith(std::string_view keyword) const {
-        return upper_.size() - position_ >= keyword.size() &&
-               std::equal(keyword.begin(), keyword.end(), upper_.data() + position_, [](char a, char32_t b) {
-                   return static_cast<unsigned char>(a) == b;
-               });
-    }
-
-    bool TakeKeyword() {
-        for (const std::string_view keyword : profileKeywords) {
-            if (!StartsWith(keyword)) continue;
-            Add(TokenType::keyword, std::string(keyword));
-            Drop(keyword.size());
-            return true;
-        }
-        return false;
-    }
-
-    bool TakeEquals() {
-        if (text_[position_] != U'=') return false;
-        Add(TokenType::equals, "=");
-        Drop(1);
-        return true;
-    }
-
-    bool TakeSeparator() {
-        if (separators.find(text_[position_]) == std::u32string_view::npos) return false;
-        Drop(1);
-        return true;
-    }
-
-    /// The position of the first separator of one sort in the rest of the text, from 1; 0 where there is
-    /// none. Fails with 6 beyond 16 bits.
-    std::int16_t PositionOf(std::size_t separator) {
-        std::size_t& next = next_[separator];
-        if (next < position_) next = position_;
-        while (next < text_.size() && text_[next] != separators[separator]) ++next;
-        return next == text_.size() ? std::int16_t{0} : NarrowTo<std::int16_t>(next - position_ + 1);
-    }
-
-    /// A word ends in front of the next separator. One that no separator follows is lost.
-    void TakeWord() {
-        std::int16_t end = 0;
-        for (std::size_t separator = 0; separator < separators.size(); ++separator) {
-            const std::int16_t found = PositionOf(separator);
-            if (found != 0 && (end == 0 || found < end)) end = found;
-        }
-        if (end == 0) {
-            position_ = text_.size();
-            return;
-        }
-        const std::string word =
-            FromCharacters(std::u32string_view(text_).substr(position_, static_cast<std::size_t>(end) - 1));
-        Add(IsNumeric(word, DecimalSeparator()) ? TokenType::number : TokenType::word, word);
-        Drop(static_cast<std::size_t>(end) - 1);
-    }
-
-    std::u32string text_;
-    std::u32string upper_;
+    std::u32string_view text_;
     std::size_t position_ = 0;
-    std::array<std::size_t, separators.size()> next_;  ///< where each separator was found last
-    Collection<Ref<clsMappingRuleToken>> tokens_;
+    std::size_t line_ = 1;
+    std::size_t lineStart_ = 0;
+};
+
+/// Finds the next separators behind positions of a text, asked for in ascending order.
+class SeparatorSearch {
+  public:
+    explicit SeparatorSearch(std::u32string_view text) : text_(text) {
+        for (std::size_t i = 0; i < separators.size(); ++i) next_[i] = Find(i, 0);
+    }
+
+    /// Whether some separator comes, but only after more characters than 16 bits can count.
+    bool OverflowsAt(std::size_t position) {
+        constexpr std::size_t farthest = std::numeric_limits<std::int16_t>::max();
+        bool overflows = false;
+        for (std::size_t i = 0; i < separators.size(); ++i) {
+            if (next_[i] < position) next_[i] = Find(i, position);
+            overflows |= next_[i] != none && next_[i] - position + 1 > farthest;
+        }
+        return overflows;
+    }
+
+  private:
+    static constexpr std::size_t none = std::u32string_view::npos;
+
+    std::size_t Find(std::size_t separator, std::size_t position) const {
+        return text_.find(separators[separator], position);
+    }
+
+    std::u32string_view text_;
+    std::array<std::size_t, separators.size()> next_{};  ///< where each was found last, or `none`
+};
+
+class Tokenizer {
+  public:
+    Tokenizer(std::string_view text, char32_t decimalSeparator)
+        : all_(ToCharacters(text)),
+          upper_(ToCharacters(UpperCase(text))),
+          // Blanks at the end of the text separate nothing.
+          text_(std::u32string_view(all_).substr(0, all_.find_last_not_of(U' ') + 1)),
+          decimalSeparator_(decimalSeparator) {}
+
+    ProfileTokens Tokens() {
+        std::size_t at = text_.find_first_not_of(blanks);
+        while (at != std::u32string_view::npos) at = text_.find_first_not_of(blanks, TakeAt(at));
+        result_.end = places_.PlaceOf(all_.size());
+        return std::move(result_);
+    }
+
+  private:
+    /// Takes the token at a position, which is no blank; returns the position behind it.
+    std::size_t TakeAt(std::size_t begin) {
+        for (const std::string_view keyword : profileKeywords)
+            if (StandsAt(keyword, begin))
+                return Add(TokenType::keyword, begin, begin + keyword.size(), std::string(keyword));
+        if (text_[begin] == U'=') return Add(TokenType::equals, begin, begin + 1, "=");
+        return TakeWord(begin);
+    }
+
+    bool StandsAt(std::string_view keyword, std::size_t position) const {
+        const std::u32string_view here = std::u32string_view(upper_).substr(position, keyword.size());
+        return std::equal(here.begin(), here.end(), keyword.begin(), keyword.end(), [](char32_t a, char b) {
+            return a == static_cast<unsigned char>(b);
+        });
+    }
+
+    std::size_t TakeWord(std::size_t begin) {
+        if (separatorSearch_.OverflowsAt(begin) && !result_.overflow)
+            result_.overflow = places_.PlaceOf(begin);
+        const std::size_t end = text_.find_first_of(separators, begin);
+        if (end == std::u32string_view::npos) return text_.size();
+        std::string word = Written(begin, end);
+        const bool isNumber = IsNumeric(word, decimalSeparator_);
+        return Add(isNumber ? TokenType::number : TokenType::word, begin, end, std::move(word));
+    }
+
+    std::size_t Add(TokenType type, std::size_t begin, std::size_t end, std::string value) {
+        clsMappingRuleToken& token = result_.tokens.emplace_back();
+        token.TokenValue = std::move(value);
+        token.TokenType = type;
+        token.written = Written(begin, end);
+        token.place = places_.PlaceOf(begin);
+        token.begin = begin;
+        token.end = end;
+        return end;
+    }
+
+    std::string Written(std::size_t begin, std::size_t end) const {
+        return FromCharacters(text_.substr(begin, end - begin));
+    }
+
+    std::u32string all_;
+    std::u32string upper_;
+    std::u32string_view text_;
+    char32_t decimalSeparator_;
+    PlaceCounter places_{all_};
+    SeparatorSearch separatorSearch_{text_};
+    ProfileTokens result_;
 };
 
 }  // namespace
 
-std::string clsIOHandler::ReadMappingProfile() {
-    return Procedure("clsIOHandler.ReadMappingProfile", [&](Frame&) {
-        const std::string path = MappingProfilePath(*gBlock.gPlatform);
-        MappingProfileFound = !path.empty() && FileExists(path);
-        return MappingProfileFound ? ReadFile(path) : std::string();
-    });
-}
-
-Collection<Ref<clsMappingRuleToken>> clsIOHandler::TokenizeMappingProfile(const std::string& Text) {
-    return Procedure("clsIOHandler.TokenizeMappingProfile", [&](Frame&) {
-        return ProfileTokenizer(Text).Tokens();
-    });
+ProfileTokens TokenizeProfile(std::string_view text, char32_t decimalSeparator) {
+    return Tokenizer(text, decimalSeparator).Tokens();
 }
 
 }  // namespace wxbrg

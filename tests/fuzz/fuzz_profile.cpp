@@ -1,5 +1,6 @@
-// Reads any bytes as a mapping profile: as a run does, and with places. Both find the same tokens, fail alike
-// and give the same rules; what can be read can be printed, and comes back as it was.
+// Reads any bytes as a mapping profile: as a run does, and as the check of profiles does. Both find the
+// tokens, the failure and the rules of the plain model; what can be read can be printed, and comes back as it
+// was.
 
 #include <cstddef>
 #include <cstdint>
@@ -11,8 +12,8 @@
 
 #include "mapping/ProfileCheck.h"
 #include "mapping/ProfileClauses.h"
-#include "mapping/ProfileReading.h"
 #include "mapping/ProfileText.h"
+#include "mapping/ProfileTokenizer.h"
 #include "mapping/clsMappingRuleToken.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/scripted/AnswerScript.h"
@@ -28,6 +29,7 @@
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
 #include "run/clsIOHandler.h"
+#include "tests/mapping/PlainProfile.h"
 
 namespace {
 
@@ -102,35 +104,66 @@ void Require(bool holds, const char* what) {
     std::abort();
 }
 
-void CompareTokens(ProfileRun& run, const std::string& text, const ProfileReading& reading) {
+std::string_view KindOf(TokenType type) {
+    switch (type) {
+        case TokenType::keyword:
+            return "keyword";
+        case TokenType::word:
+            return "word";
+        case TokenType::number:
+            return "number";
+        case TokenType::equals:
+            break;
+    }
+    return "equals";
+}
+
+void CompareTokensOfRun(ProfileRun& run, const std::string& text, const plain::Tokens& expected) {
     Collection<Ref<clsMappingRuleToken>> tokens;
     const std::int32_t end = run.EndOf([&] {
         tokens = gBlock.gIOHandler->TokenizeMappingProfile(text);
     });
-    Require(reading.overflow.has_value() == (end == FailureKind::overflow), "both readings overflow alike");
-    if (reading.overflow) return;
-    Require(static_cast<std::size_t>(tokens.Count()) == reading.tokens.size(), "there are as many tokens");
+    Require(end == (expected.overflow ? FailureKind::overflow : 0), "a run overflows as the model does");
+    if (end != 0) return;
+    Require(static_cast<std::size_t>(tokens.Count()) == expected.tokens.size(), "a run has as many tokens");
     std::size_t next = 0;
     for (const Ref<clsMappingRuleToken>& token : tokens) {
-        const ProfileToken& other = reading.tokens[next++];
-        Require(token->TokenType == other.type && token->TokenValue == other.value,
-                "the tokens are the same");
+        const plain::Token& other = expected.tokens[next++];
+        Require(KindOf(token->TokenType) == other.kind && token->TokenValue == other.value,
+                "a run has the tokens of the model");
     }
 }
 
-void CompareRules(ProfileRun& run, const std::string& text, const ProfileReading& reading) {
+void ComparePlaces(const ProfileTokens& profile, const plain::Tokens& expected) {
+    Require(profile.overflow == expected.overflow, "the overflow is found");
+    Require(profile.end == expected.end, "the end is where it is");
+    Require(profile.tokens.size() == expected.tokens.size(), "there are as many tokens");
+    for (std::size_t i = 0; i < expected.tokens.size(); ++i) {
+        const clsMappingRuleToken& token = profile.tokens[i];
+        const plain::Token& other = expected.tokens[i];
+        Require(KindOf(token.TokenType) == other.kind && token.TokenValue == other.value &&
+                    token.written == other.written,
+                "the tokens are the same");
+        Require(token.begin == other.begin && token.place == other.place, "the places are the same");
+    }
+}
+
+void CompareRules(ProfileRun& run, const std::string& text, const ProfileTokens& profile) {
     const std::int32_t end = run.EndOf([] {
         gBlock.gIOHandler->ParseMappingFile();
     });
     if (text.empty()) return;
-    const ProfileClauses clauses = ReadClauses(reading, DecimalSeparator());
+    const plain::Reading expected = plain::Read(text, DecimalSeparator());
+    Require(end == expected.endsWith, "a run fails as the model does");
+    Require(ProfileText(RulesOf(gBlock.gColMappingRule)) == ProfileText(expected.rules),
+            "a run has the rules of the model");
+    const ProfileClauses clauses = ReadClauses(profile, DecimalSeparator());
     std::int32_t told = 0;
     for (const ProfileFinding& finding : clauses.findings)
         if (told == 0) told = finding.endsWith;
     Require(told == end, "the failure of a run is told");
     if (end == 0)
-        Require(ProfileText(RulesOf(clauses)) == ProfileText(RulesOf(gBlock.gColMappingRule)),
-                "the rules are the same");
+        Require(ProfileText(RulesOf(clauses)) == ProfileText(expected.rules), "the rules are the same");
 }
 
 /// Profiles that can be read come back from their printed text.
@@ -153,9 +186,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         text = gBlock.gIOHandler->ReadFile(profileName);
     });
     const char32_t separator = DecimalSeparator();
-    const ProfileReading reading = ReadProfile(text, separator);
-    CompareTokens(run, text, reading);
-    CompareRules(run, text, reading);
+    const plain::Tokens expected = plain::Tokenize(text, separator);
+    const ProfileTokens profile = TokenizeProfile(text, separator);
+    CompareTokensOfRun(run, text, expected);
+    ComparePlaces(profile, expected);
+    CompareRules(run, text, profile);
     PrintAndReadBack(text, separator);
     return 0;
 }

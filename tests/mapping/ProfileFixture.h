@@ -32,6 +32,21 @@ inline std::string Whole(const RuleTable& rules) {
 
 /// A run that comes to its mapping profile, which stands beside the program.
 class ProfileTest : public RunFixture {
+  public:
+    static std::string TokenText(TokenType type, const std::string& value) {
+        switch (type) {
+            case TokenType::keyword:
+                return "keyword " + value;
+            case TokenType::word:
+                return "word " + value;
+            case TokenType::number:
+                return "number " + value;
+            case TokenType::equals:
+                return "equals " + value;
+        }
+        return "type " + std::to_string(static_cast<std::int32_t>(type)) + " " + value;
+    }
+
   protected:
     static constexpr const char* profileName = "/program/wxbrg.prf";
 
@@ -54,20 +69,6 @@ class ProfileTest : public RunFixture {
         });
         if (end) return {"failure " + std::to_string(end->number)};
         return tokens;
-    }
-    static std::string TokenText(std::int32_t type, const std::string& value) {
-        switch (type) {
-            case TokenType::keyword:
-                return "keyword " + value;
-            case TokenType::word:
-                return "word " + value;
-            case TokenType::number:
-                return "number " + value;
-            case TokenType::equals:
-                return "equals " + value;
-            default:
-                return "type " + std::to_string(type) + " " + value;
-        }
     }
     /// The table of the run.
     static std::string Table() { return Whole(RulesOf(gBlock.gColMappingRule)); }

@@ -1,6 +1,11 @@
+#include "mapping/ProfileTokenizer.h"
+
 #include <gmock/gmock.h>
 
+#include "support/Text.h"
+#include "tests/mapping/PlainProfile.h"
 #include "tests/mapping/ProfileFixture.h"
+#include "tests/mapping/RandomProfile.h"
 
 namespace wxbrg {
 namespace {
@@ -118,6 +123,114 @@ TEST_F(ProfileTokenizerTest, AProfileOfMegabytesTakesTimeInItsLength) {
 TEST_F(ProfileTokenizerTest, RestoresTheNameOfItsCaller) {
     Tokens("a b\n");
     EXPECT_EQ(gBlock.gCurrentProcedure, "test.Caller");
+}
+
+/// The places of the tokens, as "3:14 END".
+std::vector<std::string> Places(std::string_view text) {
+    std::vector<std::string> places;
+    for (const clsMappingRuleToken& token : TokenizeProfile(text, U'.').tokens)
+        places.push_back(std::to_string(token.place.line) + ":" + std::to_string(token.place.column) + " " +
+                         token.written);
+    return places;
+}
+
+TEST(ProfilePlaces, EveryTokenHasItsLineAndColumn) {
+    EXPECT_THAT(
+        Places("OBJECT_MAPPING ROLE\r\n  Object_Type=78\r\nEND\r\n"),
+        ElementsAre("1:1 OBJECT_MAPPING", "1:16 ROLE", "2:3 Object_Type", "2:14 =", "2:15 78", "3:1 END"));
+}
+
+TEST(ProfilePlaces, AnyLineEndEndsALine) {
+    EXPECT_THAT(Places("a\rb\nc\r\nd\n\re\n"), ElementsAre("1:1 a", "2:1 b", "3:1 c", "4:1 d", "6:1 e"));
+}
+
+TEST(ProfilePlaces, ColumnsCountCharacters) {
+    EXPECT_THAT(Places("größe \tü x\n"), ElementsAre("1:1 größe", "1:8 ü", "1:10 x"));
+}
+
+TEST(ProfilePlaces, TheEndIsBehindTheLastCharacter) {
+    EXPECT_EQ(TokenizeProfile("", U'.').end, (TextPlace{1, 1}));
+    EXPECT_EQ(TokenizeProfile("END  ", U'.').end, (TextPlace{1, 6}));
+    EXPECT_EQ(TokenizeProfile("END\r\n", U'.').end, (TextPlace{2, 1}));
+}
+
+TEST(ProfilePlaces, TokensTellWhetherTheyFollowEachOtherAtOnce) {
+    const ProfileTokens profile = TokenizeProfile("ENDPOINT END POINT\n", U'.');
+    ASSERT_EQ(profile.tokens.size(), 4U);
+    EXPECT_EQ(profile.tokens[0].end, profile.tokens[1].begin);
+    EXPECT_LT(profile.tokens[2].end, profile.tokens[3].begin);
+}
+
+TEST(ProfilePlaces, AWordTooFarFromASeparatorIsTold) {
+    EXPECT_EQ(TokenizeProfile(std::string(32766, 'x') + "\n", U'.').overflow, std::nullopt);
+    EXPECT_EQ(TokenizeProfile("END\n  " + std::string(32767, 'x') + "\n", U'.').overflow, (TextPlace{2, 3}));
+}
+
+/// Tokens as in the plain model.
+plain::Token Plain(const clsMappingRuleToken& token) {
+    const std::string text = ProfileTest::TokenText(token.TokenType, token.TokenValue);
+    return {text.substr(0, text.find(' ')), token.TokenValue, token.written, token.begin, token.place};
+}
+
+/// What a run and the check take from a text against the plain model of it.
+class TokenModelTest : public ProfileTest {
+  protected:
+    /// Returns whether a run overflows.
+    bool ExpectTheSameOf(const std::string& text) {
+        const char32_t separator = userLocale_.DecimalSeparator();
+        const plain::Tokens expected = plain::Tokenize(text, separator);
+        ExpectTheRun(expected, text);
+        ExpectPlaces(expected, text);
+        return expected.overflow.has_value();
+    }
+
+  private:
+    static void ExpectTheRun(const plain::Tokens& expected, const std::string& text) {
+        std::vector<std::string> tokens;
+        for (const plain::Token& token : expected.tokens) tokens.push_back(token.kind + " " + token.value);
+        if (expected.overflow) tokens = {"failure 6"};
+        EXPECT_EQ(Tokens(text), tokens) << testing::PrintToString(text.substr(0, 2000));
+    }
+    void ExpectPlaces(const plain::Tokens& expected, const std::string& text) {
+        const ProfileTokens profile = TokenizeProfile(text, userLocale_.DecimalSeparator());
+        std::vector<plain::Token> tokens;
+        for (const clsMappingRuleToken& token : profile.tokens) {
+            tokens.push_back(Plain(token));
+            EXPECT_EQ(token.end, token.begin + CharacterCount(token.written));
+        }
+        EXPECT_TRUE(tokens == expected.tokens) << testing::PrintToString(text.substr(0, 2000));
+        EXPECT_EQ(profile.end, expected.end);
+        EXPECT_EQ(profile.overflow, expected.overflow);
+    }
+};
+
+TEST_F(TokenModelTest, HoldsForAnyText) {
+    Engine engine(20);
+    for (int i = 0; i < 3000; ++i) {
+        ExpectTheSameOf(RandomText(engine, 30));
+        ASSERT_FALSE(HasFailure()) << "text " << i;
+    }
+}
+
+TEST_F(TokenModelTest, HoldsForLongTexts) {
+    Engine engine(21);
+    int overflows = 0;
+    for (int i = 0; i < 60; ++i) {
+        if (ExpectTheSameOf(RandomLongText(engine))) ++overflows;
+        ASSERT_FALSE(HasFailure()) << "text " << i;
+    }
+    EXPECT_GT(overflows, 6);
+    EXPECT_LT(overflows, 54);
+}
+
+TEST_F(TokenModelTest, HoldsForTheDecimalCommaOfTheUser) {
+    userLocale_.decimalSeparator = U',';
+    Engine engine(22);
+    for (int i = 0; i < 300; ++i) ExpectTheSameOf(RandomText(engine, 30));
+}
+
+TEST_F(TokenModelTest, HoldsWhereBytesAreNoText) {
+    for (const std::string text : {"\xFF\xFE END\n", "a\xC3\n", "\x80=1\n"}) ExpectTheSameOf(text);
 }
 
 }  // namespace
