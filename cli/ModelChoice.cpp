@@ -14,10 +14,6 @@ namespace {
 /// So many models an error lists; `wxbrg models` lists all.
 constexpr std::size_t listedModels = 50;
 
-std::string Quoted(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
-}
-
 std::string Listed(const std::vector<ARISModel>& models, std::int32_t locale) {
     std::string list;
     for (std::size_t i = 0; i < std::min(models.size(), listedModels); ++i)
@@ -64,15 +60,16 @@ class Chooser {
         if (found.empty()) found = Where(processes_, hasName);
         if (found.size() == 1) return found.front();
         if (!found.empty())
-            throw UsageError("Several models have the name " + Quoted(text) +
+            throw UsageError("Several models have the name " + InQuotes(text) +
                              "; give the Guid of one with --model:" + Listed(found, locale_));
         std::vector<ARISModel> other = Where(others_, hasGuid);
         if (other.empty()) other = Where(others_, hasName);
         if (!other.empty())
-            throw UsageError("The model " + Quoted(text) + " is of the type " +
-                             Quoted(other.front()->Type()) + " (" + std::to_string(other.front()->TypeNum()) +
+            throw UsageError("The model " + InQuotes(text) + " is of the type " +
+                             InQuotes(other.front()->Type()) + " (" +
+                             std::to_string(other.front()->TypeNum()) +
                              "), which is no process type. There are:" + Listed(processes_, locale_));
-        throw UsageError("There is no model with the name or Guid " + Quoted(text) +
+        throw UsageError("There is no model with the name or Guid " + InQuotes(text) +
                          " in this language. There are:" + Listed(processes_, locale_));
     }
 

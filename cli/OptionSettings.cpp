@@ -29,10 +29,6 @@ std::vector<std::string_view> OptionNames() {
     return names;
 }
 
-std::string Quoted(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
-}
-
 }  // namespace
 
 const ExportOption* FindOption(std::string_view name) {
@@ -48,7 +44,7 @@ std::int32_t OptionNumber(std::string_view name, std::string_view text) {
         return ToInt32(text, U'.');
     } catch (const Failure&) {
         throw UsageError(Listed("The value of " + std::string(name) + " must be a number of 32 bits, and " +
-                                    Quoted(text) + " is none.",
+                                    InQuotes(text) + " is none.",
                                 OptionNames()));
     }
 }
@@ -57,11 +53,11 @@ OptionSetting ParseSetting(std::string_view setting) {
     const std::size_t equals = setting.find('=');
     if (equals == std::string_view::npos)
         throw UsageError(
-            Listed("--set takes Name=Value, and " + Quoted(setting) + " holds no \"=\".", OptionNames()));
+            Listed("--set takes Name=Value, and " + InQuotes(setting) + " holds no \"=\".", OptionNames()));
     const std::string_view name = Trim(setting.substr(0, equals));
     const ExportOption* option = FindOption(name);
     if (option == nullptr)
-        throw UsageError(Listed("There is no export option " + Quoted(name) + ".", OptionNames()));
+        throw UsageError(Listed("There is no export option " + InQuotes(name) + ".", OptionNames()));
     return {option->valueName, OptionNumber(option->valueName, setting.substr(equals + 1))};
 }
 
@@ -83,7 +79,7 @@ std::string_view StoredValueName(std::string_view name) {
         return IsSame(candidate, name);
     });
     if (found == names.end())
-        throw UsageError(Listed("There is no stored option " + Quoted(name) + ".", names));
+        throw UsageError(Listed("There is no stored option " + InQuotes(name) + ".", names));
     return *found;
 }
 

@@ -75,12 +75,12 @@ class RuleCheck {
         const RuleSort sort = BuiltInSort(name).value();
         const ProfileClause* const clause = Rule(name);
         if (clause == nullptr)
-            return Error(end_, "the rule " + InQuotes(name) +
+            return Error(end_, "the rule " + PrintableInQuotes(name) +
                                    " is missing, and a run that asks for it ends with 2100; add it. \"wxbrg "
                                    "profile print --default\" shows the built-in one");
         if (clause->sort != sort)
-            Error(clause->name.place, "the rule " + InQuotes(clause->name.text) + " has to begin with " +
-                                          std::string(KeywordOf(sort)) + "; a run " +
+            Error(clause->name.place, "the rule " + PrintableInQuotes(clause->name.text) +
+                                          " has to begin with " + std::string(KeywordOf(sort)) + "; a run " +
                                           std::string(TakenAs(sort)));
     }
 
@@ -126,7 +126,7 @@ class RuleCheck {
     void CheckChain(const ProfileStep& step) {
         const ProfileClause* const next = Rule(step.continues.text);
         const std::string name =
-            "the rule " + InQuotes(step.continues.text) + ", with which this step goes on, ";
+            "the rule " + PrintableInQuotes(step.continues.text) + ", with which this step goes on, ";
         if (next == nullptr)
             return Error(step.continues.place,
                          name + "is missing, and a run that takes the step ends with 2100; add it");
@@ -185,7 +185,7 @@ class RuleCheck {
         }
         for (const auto& [upper, clause] : rules_)
             if (!clause->misnamed && !read.contains(clause) && !IsIdleBuiltIn(upper))
-                Warn(clause->name.place, "nothing asks for the rule " + InQuotes(clause->name.text) +
+                Warn(clause->name.place, "nothing asks for the rule " + PrintableInQuotes(clause->name.text) +
                                              "; correct its name, or take it out. \"wxbrg profile print "
                                              "--default\" shows the names there are");
     }

@@ -97,8 +97,8 @@ class ClauseReader : public ProfileParser {
 
     void WarnOfGlue(const clsMappingRuleToken& token) {
         Find(FindingSeverity::warning, token.place,
-             InQuotes(token.written + tokens_[next_].written) + " is read as two words; put a blank behind " +
-                 InQuotes(token.written));
+             PrintableInQuotes(token.written + tokens_[next_].written) +
+                 " is read as two words; put a blank behind " + PrintableInQuotes(token.written));
     }
 
     /// The whole name that begins with a keyword.
@@ -111,7 +111,7 @@ class ClauseReader : public ProfileParser {
         }
         name.TokenValue = name.written;
         Find(FindingSeverity::error, token.place,
-             "the name " + InQuotes(name.written) + " begins with the keyword " + token.TokenValue +
+             "the name " + PrintableInQuotes(name.written) + " begins with the keyword " + token.TokenValue +
                  " and is split behind it; choose a name that does not begin so",
              RunEndsWith());
         return name;
@@ -119,7 +119,7 @@ class ClauseReader : public ProfileParser {
 
     void Complain(const clsMappingRuleToken& token) {
         const bool closes = profileGrammar::RowFor(State(), TokenType::keyword, "END") != nullptr;
-        std::string text = "expected " + Expected(State()) + " and not " + InQuotes(token.written);
+        std::string text = "expected " + Expected(State()) + " and not " + PrintableInQuotes(token.written);
         if (OpensRule(token) && closes)
             text = RuleName() + " is not closed; put END in front of " + token.TokenValue;
         else if (IsEnd(token) && EntryIsDue())
@@ -177,7 +177,7 @@ class ClauseReader : public ProfileParser {
         findings_.push_back({severity, place, std::move(text), endsWith, endsWith != 0});
     }
 
-    std::string RuleName() { return "the rule " + InQuotes(Clause().name.text); }
+    std::string RuleName() { return "the rule " + PrintableInQuotes(Clause().name.text); }
 
     const std::vector<clsMappingRuleToken>& tokens_;
     char32_t decimalSeparator_;

@@ -2,10 +2,8 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "mapping/clsMappingRuleToken.h"
-#include "support/Text.h"
 
 namespace wxbrg {
 
@@ -24,13 +22,5 @@ struct ProfileFinding {
     /// cut off.
     bool unreadable = false;
 };
-
-/// A text of the profile as findings show it: a control character, which a terminal might obey, as U+FFFD.
-inline std::string InQuotes(std::string_view text) {
-    std::u32string characters = ToCharacters(text);
-    for (char32_t& character : characters)
-        if (character < U' ' || (character >= U'\x7F' && character < U'\xA0')) character = U'\xFFFD';
-    return '"' + FromCharacters(characters) + '"';
-}
 
 }  // namespace wxbrg

@@ -179,6 +179,24 @@ std::string Replace(std::string_view text, std::string_view what, std::string_vi
     return result.append(text.substr(from));
 }
 
+std::string InQuotes(std::string_view text) {
+    return std::string(1, '"').append(text).append(1, '"');
+}
+
+std::string ShortInQuotes(std::string_view text) {
+    constexpr std::size_t shown = 60;
+    const std::string_view front = Left(text, shown);
+    return InQuotes(std::string(front) + (front.size() < text.size() ? "..." : ""));
+}
+
+std::string PrintableInQuotes(std::string_view text) {
+    std::u32string characters = ToCharacters(text);
+    for (char32_t& character : characters)
+        if (character < U' ' || (character >= U'\x7F' && character < U'\xA0'))
+            character = replacementCharacter;
+    return InQuotes(FromCharacters(characters));
+}
+
 std::string CollapseBlanks(std::string_view text) {
     std::string result;
     result.reserve(text.size());

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "aris/xml/Spelling.h"
+#include "support/Text.h"
 
 namespace wxbrg::xml {
 
@@ -83,7 +84,7 @@ void AmlReader::StartElement(const char* name, const char* const* attributes) {
         return;
     }
     if (place == Place::document)
-        parser_.Fail("the file holds " + Quoted(element) + ", not an ARIS XML export (AML)",
+        parser_.Fail("the file holds " + ShortInQuotes(element) + ", not an ARIS XML export (AML)",
                      "Choose a file that ARIS has written with its XML export.");
     passedOver_ = 1;
 }
@@ -144,7 +145,7 @@ void AmlReader::CharacterData(std::string_view piece) {
 
 void AmlReader::UnreadEntity(std::string_view name) {
     if (passedOver_ == 0)
-        parser_.Fail("the entity " + Quoted(name) + " is not declared in the file",
+        parser_.Fail("the entity " + ShortInQuotes(name) + " is not declared in the file",
                      "Declare it at the start of the file, or export the database from ARIS again.");
 }
 
@@ -244,7 +245,7 @@ void AmlReader::EnterConnectionOccurrence(XmlAttributes attributes) {
 const ResolvedType& AmlReader::Type(TypeKind kind, std::string_view spelled) {
     const ResolvedType* const type = builder_.Types().Resolve(kind, spelled);
     if (type == nullptr)
-        parser_.Fail("the type number " + Quoted(spelled) + " is beyond 32 bits", correctAndExport);
+        parser_.Fail("the type number " + ShortInQuotes(spelled) + " is beyond 32 bits", correctAndExport);
     return *type;
 }
 
@@ -258,7 +259,7 @@ std::int32_t AmlReader::Number(XmlAttributes attributes, std::string_view name) 
     if (spelled == nullptr) return 0;
     const std::optional<std::int32_t> number = WholeNumber(spelled);
     if (!number)
-        parser_.Fail(std::string(name) + "=" + Quoted(spelled) + " is no whole number of 32 bits",
+        parser_.Fail(std::string(name) + "=" + ShortInQuotes(spelled) + " is no whole number of 32 bits",
                      correctAndExport);
     return *number;
 }

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "support/Text.h"
-
 namespace wxbrg::xml {
 
 std::string_view TrimSpace(std::string_view text) {
@@ -29,13 +27,6 @@ bool IsPlainDecimal(std::string_view text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char byte) {
         return byte >= '0' && byte <= '9';
     });
-}
-
-std::string Quoted(std::string_view text) {
-    constexpr std::size_t shown = 60;
-    const std::string_view front = Left(text, shown);
-    std::string quoted(1, '"');
-    return quoted.append(front).append(front.size() < text.size() ? "...\"" : "\"");
 }
 
 }  // namespace wxbrg::xml

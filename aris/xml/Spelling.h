@@ -17,7 +17,4 @@ std::optional<std::int32_t> WholeNumber(std::string_view text);
 /// Whether a text is made of decimal digits alone.
 bool IsPlainDecimal(std::string_view text);
 
-/// What messages show of a text out of a file: its first 60 characters, in quotation marks.
-std::string Quoted(std::string_view text);
-
 }  // namespace wxbrg::xml

@@ -86,11 +86,12 @@ std::string TypeTable::AddLine(std::string_view line) {
     const std::vector<std::string_view> fields = SplitAtTabs(line);
     if (fields.size() < 4) return "the row has fewer than the four fields kind, API name, number and name";
     const auto mark = std::find(kindMarks.begin(), kindMarks.end(), Trim(fields[0]));
-    if (mark == kindMarks.end()) return Quoted(fields[0]) + " is none of the kinds MT, OT, CT, AT and ST";
+    if (mark == kindMarks.end())
+        return ShortInQuotes(fields[0]) + " is none of the kinds MT, OT, CT, AT and ST";
     const std::string_view apiName = Trim(fields[1]);
     if (apiName.empty()) return "the row has no API name";
     const std::optional<std::int32_t> number = WholeNumber(fields[2]);
-    if (!number || *number < 0) return Quoted(fields[2]) + " is no number from 0 to 2147483647";
+    if (!number || *number < 0) return ShortInQuotes(fields[2]) + " is no number from 0 to 2147483647";
     const std::string_view readableName = Trim(fields[3]);
     if (readableName.empty()) return "the row has no readable name";
     Add(static_cast<TypeKind>(mark - kindMarks.begin()), apiName, *number, readableName);
