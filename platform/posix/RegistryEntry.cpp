@@ -104,9 +104,11 @@ ProfileValue ValueOfBytes(std::uint32_t type, std::string_view bytes) {
         return static_cast<std::int32_t>(number);
     }
     if (type != stringType) return {};
-    if (bytes.ends_with('\0')) bytes.remove_suffix(1);
-    if (bytes.find('\0') != std::string_view::npos || !IsUtf8(bytes)) return {};
-    return std::string(bytes);
+    if (!IsUtf8(bytes)) return {};
+    // The last character counts as the terminating zero, whatever it is.
+    const std::string_view text = WithoutLast(bytes, std::min(CharacterCount(bytes), std::size_t{1}));
+    if (text.find('\0') != std::string_view::npos) return {};
+    return std::string(text);
 }
 
 /// Reads the type and bytes behind "hex". Nothing for what cannot be read.

@@ -26,6 +26,9 @@ namespace wxbrg {
 ///
 /// Keys are full paths from the root on; a trailing backslash makes no difference. The name of a key's
 /// default value is empty. Names compare without regard to case.
+///
+/// A string that is stored as its bytes ends in a zero character, which is not part of the text; where the
+/// zero is missing, the last character is taken off in its place.
 class RegistryText {
   public:
     /// An empty registry: the first line alone.

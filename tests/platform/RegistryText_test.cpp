@@ -50,6 +50,17 @@ TEST(RegistryText, ReadsStringsAndNumbersFromTheirBytes) {
     EXPECT_EQ(ValueIn("\"A\"=hex(4):fe,ff,ff,ff\n"), ProfileValue(-2));
 }
 
+TEST(RegistryText, AStringOfBytesLosesItsLastCharacterWhetherOrNotThatIsAZero) {
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):61,62,00\n"), ProfileValue("ab"));
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):61,62\n"), ProfileValue("a"));
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):61,c3,a4\n"), ProfileValue("a"));
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):61\n"), ProfileValue(""));
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):00\n"), ProfileValue(""));
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):\n"), ProfileValue(""));
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):61,00,62,00\n"), ProfileValue());
+    EXPECT_EQ(ValueIn("\"A\"=hex(1):61,c3\n"), ProfileValue());
+}
+
 TEST(RegistryText, OtherTypesHoldNothing) {
     EXPECT_EQ(ValueIn("\"A\"=hex:61,62\n"), ProfileValue());
     EXPECT_EQ(ValueIn("\"A\"=hex(2):25,50,25,00\n"), ProfileValue());
