@@ -5,6 +5,7 @@
 
 #include "cli/ExitStatus.h"
 #include "cli/OptionSettings.h"
+#include "options/StoredValues.h"
 
 namespace wxbrg::cli {
 
@@ -26,11 +27,6 @@ ValueAndOrigin InForce(const ProfileStore& store, std::string_view name) {
     value = store.Read(ProfileScope::machine, programKey, name);
     if (!std::holds_alternative<std::monostate>(value)) return {std::move(value), "machine"};
     return {DefaultOf(name), "default"};
-}
-
-std::string TextOf(const ProfileValue& value) {
-    const auto* number = std::get_if<std::int32_t>(&value);
-    return number ? std::to_string(*number) : std::get<std::string>(value);
 }
 
 int List(const ToolEnvironment& environment) {

@@ -1,7 +1,5 @@
 #include "options/MessageTexts.h"
 
-#include <variant>
-
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
 #include "run/clsExceptionHandler.h"
@@ -17,9 +15,7 @@ namespace {
 constexpr std::size_t textCapacity = 4096;
 
 std::string TagOf(const ProfileValue& stored) {
-    std::string tag;
-    if (const auto* text = std::get_if<std::string>(&stored)) tag = *text;
-    if (const auto* number = std::get_if<std::int32_t>(&stored)) tag = std::to_string(*number);
+    std::string tag = TextOf(stored);
     return tag.empty() ? std::string(defaultLanguage) : tag;
 }
 

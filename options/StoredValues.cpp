@@ -18,6 +18,12 @@ ProfileValue GetProfileValue(std::string_view Key, std::string_view ValueName) {
     });
 }
 
+std::string TextOf(const ProfileValue& value) {
+    if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
+    const auto* text = std::get_if<std::string>(&value);
+    return text == nullptr ? std::string() : *text;
+}
+
 void SetProfileValue(std::string_view Key, std::string_view ValueName, const ProfileValue& Value,
                      ProfileType Type) {
     Procedure("modUtilities.SetProfileValue", [&](Frame&) {

@@ -1,7 +1,6 @@
 #include "run/clsIOHandler.h"
 
 #include <optional>
-#include <variant>
 
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
@@ -40,11 +39,6 @@ std::string WithLineEnds(std::string_view text) {
         text.remove_prefix(end + (text.substr(end).starts_with(lineEnd) ? lineEnd.size() : 1));
     }
     return result;
-}
-
-std::string TextOf(const ProfileValue& value) {
-    const auto* text = std::get_if<std::string>(&value);
-    return text == nullptr ? std::string() : *text;
 }
 
 FileDialogSettings DialogSettings() {

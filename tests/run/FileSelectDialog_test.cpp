@@ -71,6 +71,22 @@ TEST_F(FileSelectDialogTest, AnEmptyStoredNameCountsAsNone) {
     EXPECT_EQ(fileDialog_.shown.front().fileName, "*.wpx");
 }
 
+TEST_F(FileSelectDialogTest, AStoredNumberCountsAsItsDecimalText) {
+    Store("OutputPath", 2024);
+    Store("OutputFileName", -17);
+    Select("file out.wpx");
+    EXPECT_EQ(fileDialog_.shown.front().initialDirectory, "2024");
+    EXPECT_EQ(fileDialog_.shown.front().fileName, "-17");
+}
+
+TEST_F(FileSelectDialogTest, AStored0IsANameToo) {
+    Store("OutputPath", 0);
+    Store("OutputFileName", 0);
+    Select("file out.wpx");
+    EXPECT_EQ(fileDialog_.shown.front().initialDirectory, "0");
+    EXPECT_EQ(fileDialog_.shown.front().fileName, "0");
+}
+
 TEST_F(FileSelectDialogTest, EmptiesOutputAndLogAndKeepsTheirNames) {
     fileSystem_.Put("folder/out.wpx", "old output");
     fileSystem_.Put("folder/out.log", "old log");
