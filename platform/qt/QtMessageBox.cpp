@@ -49,6 +49,15 @@ BoxAnswer AnswerOf(int button) {
     }
 }
 
+/// Shows a box in front of all other windows and gives it the keyboard. What is not shown yet cannot be
+/// raised.
+void BringToFront(QMessageBox& box) {
+    box.setModal(true);
+    box.show();
+    box.raise();
+    box.activateWindow();
+}
+
 }  // namespace
 
 BoxAnswer QtMessageBox::Show(std::string_view title, std::string_view text, std::int32_t buttons) {
@@ -59,7 +68,7 @@ BoxAnswer QtMessageBox::Show(std::string_view title, std::string_view text, std:
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setDefaultButton(set == BoxStyle::yesNo ? QMessageBox::Yes : QMessageBox::Ok);
-    if (buttons & BoxStyle::foreground) box.raise();
+    if (buttons & BoxStyle::foreground) BringToFront(box);
     return AnswerOf(box.exec());
 }
 

@@ -42,6 +42,36 @@ TEST_F(QtMessageBoxTest, ShowsTitleAndTextAsTheyStand) {
     });
 }
 
+/// Notes when a box is shown, raised and made the active window.
+class FrontEvents : public QObject {
+  public:
+    FrontEvents() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (qobject_cast<QMessageBox*>(watched) != nullptr) {
+            if (event->type() == QEvent::Show) seen.append("shown ");
+            if (event->type() == QEvent::ZOrderChange) seen.append("raised ");
+            if (event->type() == QEvent::WindowActivate) seen.append("active ");
+        }
+        return false;
+    }
+
+    std::string seen;
+};
+
+TEST_F(QtMessageBoxTest, ForegroundRaisesTheBoxOnceItIsShown) {
+    const auto eventsOf = [](std::int32_t buttons) {
+        const FrontEvents events;
+        Show(buttons, [](QMessageBox& box) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+            EXPECT_TRUE(box.isModal());
+            box.accept();
+        });
+        return events.seen;
+    };
+    EXPECT_EQ(eventsOf(16 + BoxStyle::foreground), "shown raised active ");
+    EXPECT_EQ(eventsOf(16), "shown active ");
+}
+
 TEST_F(QtMessageBoxTest, TheIconIsThatOfTheSeverity) {
     const auto iconOf = [](std::int32_t severity) {
         QMessageBox::Icon icon = QMessageBox::NoIcon;
