@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +28,10 @@ struct FileDialogSettings {
     std::string filter;  ///< descriptions and patterns in turn, separated by "|"
     std::string defaultExtension;
     int filterIndex = 1;  ///< from 1
+    /// Shows the help page about the file; called only where the flags hold `showHelp`. It never fails.
+    std::function<void()> help = {};
+
+    bool Has(std::int32_t flag) const { return (flags & flag) != 0; }
 };
 
 class FileDialog {
@@ -37,6 +43,9 @@ class FileDialog {
 
 /// Whether a name is a pattern such as "*.wpx", which names no file.
 bool IsPattern(std::string_view name);
+
+/// Whether an existing file can be opened for writing; it is not changed.
+bool IsWritable(const std::filesystem::path& file);
 
 /// What a front end without a real dialog makes of a typed name: the default extension is added when the last
 /// part of the name holds no point.

@@ -14,6 +14,14 @@ enum class FormControlKind { tab, checkBox, optionButton, textField, label, fram
 /// The page of what is on no page of the form.
 inline constexpr std::int32_t noPage = -1;
 
+/// The buttons of the options form by their names.
+namespace FormButton {
+inline constexpr std::string_view help = "cmdHelp";
+inline constexpr std::string_view ok = "cmdOK";          ///< the default button
+inline constexpr std::string_view cancel = "cmdCancel";  ///< Esc presses it
+inline constexpr std::string_view apply = "cmdApply";    ///< disabled while the form is clean
+}  // namespace FormButton
+
 /// One control of the options form as a view shows it: a row of the form's table and its present state.
 struct FormControlRow {
     std::string_view name;  ///< "cbConvertARISNames"

@@ -4,6 +4,7 @@
 
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
+#include "options/modHelp.h"
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
 #include "support/Text.h"
@@ -52,6 +53,9 @@ FileDialogSettings DialogSettings() {
     settings.filter = "Workplex Files (*.wpx)|*.wpx|All Files (*.*)|*.*";
     settings.defaultExtension = "wpx";
     settings.filterIndex = 1;
+    settings.help = [] {
+        gBlock.gPlatform->helpViewer.ShowPage(gBlock.gHelpFile, outputFileHelpNumber);
+    };
     return settings;
 }
 

@@ -31,25 +31,23 @@ struct ButtonRow {
     void (*act)(OptionsFormEvents& form);
 };
 constexpr std::array buttonActs{
-    ButtonRow{"cmdHelp",
+    ButtonRow{FormButton::help,
               [](OptionsFormEvents& form) {
                   form.Help();
               }},
-    ButtonRow{"cmdOK",
+    ButtonRow{FormButton::ok,
               [](OptionsFormEvents& form) {
                   form.Ok();
               }},
-    ButtonRow{"cmdCancel",
+    ButtonRow{FormButton::cancel,
               [](OptionsFormEvents& form) {
                   form.Cancel();
               }},
-    ButtonRow{"cmdApply",
+    ButtonRow{FormButton::apply,
               [](OptionsFormEvents& form) {
                   form.Apply();
               }},
 };
-constexpr std::string_view helpButton = "cmdHelp";
-constexpr std::string_view defaultButton = "cmdOK";
 
 /// How many digits wide the text field is beyond what it takes.
 constexpr int spareDigits = 2;
@@ -191,7 +189,7 @@ QWidget* FormDialog::MakeControl(const FormControlRow& row) {
 QWidget* FormDialog::MakeButton(const FormControlRow& row) {
     if (row.kind == FormControlKind::button) {
         auto* const button = new QPushButton(this);
-        button->setDefault(row.name == defaultButton);
+        button->setDefault(row.name == FormButton::ok);
         const auto* const pressed =
             std::find_if(buttonActs.begin(), buttonActs.end(), [&row](const ButtonRow& candidate) {
                 return candidate.name == row.name;
@@ -242,7 +240,7 @@ void FormDialog::AddButtons(QVBoxLayout* whole, const QList<FormControlRow>& row
     auto* const line = new QHBoxLayout;
     for (const FormControlRow& row : rows) {
         line->addWidget(MakeControl(row));
-        if (row.name == helpButton) line->addStretch(1);
+        if (row.name == FormButton::help) line->addStretch(1);
     }
     whole->addLayout(line);
 }

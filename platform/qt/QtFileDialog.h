@@ -9,8 +9,9 @@
 namespace wxbrg {
 
 /// The save-file dialog in a window. It keeps to all of the settings: a pattern as the file's name ("*.wpx")
-/// proposes none; of the flags, those for the overwrite question, for a folder that must exist and for a file
-/// that must be writable. It makes new files without a question, as save dialogs do.
+/// proposes none; of the flags, those for the overwrite question, for the question before a new file is made,
+/// for a folder that must exist, for a file that must be writable and for the help, which a button and F1
+/// show.
 class QtFileDialog : public FileDialog {
   public:
     /// `language` is the tag of the language of the dialog's own words.

@@ -21,22 +21,22 @@ class InteractiveProgram : public ProgramTest {
 };
 
 TEST_F(InteractiveProgram, AsksForOptionsAndFileAndExports) {
-    const ProcessResult result = Answer("o\nresult\n");
+    const ProcessResult result = Answer("o\nresult\ny\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "wxbrg: There is no display; the terminal is used instead.\n");
-    EXPECT_THAT(result.out, AllOf(HasSubstr("[x]"), HasSubstr("Output file")));
+    EXPECT_THAT(result.out, AllOf(HasSubstr("[x]"), HasSubstr("Output file"), HasSubstr("Create it?")));
     EXPECT_THAT(folder.Read("result.wpx"), AllOf(HasSubstr("'New_orders'"), HasSubstr("= me")));
     EXPECT_THAT(folder.Read("result.log"), HasSubstr("WXB03110I "));
 }
 
 TEST_F(InteractiveProgram, AChangedOptionCountsAndIsStored) {
-    EXPECT_EQ(Answer("1\no\nresult\n").status, 0);
+    EXPECT_EQ(Answer("1\no\nresult\ny\n").status, 0);
     EXPECT_THAT(folder.Read("result.wpx"), HasSubstr("'New.orders'"));
     EXPECT_EQ(Run({"options", "get", "ConvertNames"}).out, "0\n");
 }
 
 TEST_F(InteractiveProgram, UnchangedOptionsAreNotStored) {
-    EXPECT_EQ(Answer("o\nresult\n").status, 0);
+    EXPECT_EQ(Answer("o\nresult\ny\n").status, 0);
     EXPECT_TRUE(std::filesystem::is_empty(folder / "settings"));
 }
 
@@ -48,7 +48,7 @@ TEST_F(InteractiveProgram, CancellingTheOptionsAndSayingYesIsExitStatus130) {
 }
 
 TEST_F(InteractiveProgram, CancellingAndSayingNoGoesOn) {
-    EXPECT_EQ(Answer("c\nn\no\nc\nn\nresult\n").status, 0);
+    EXPECT_EQ(Answer("c\nn\no\nc\nn\nresult\ny\n").status, 0);
     EXPECT_TRUE(Exists("result.wpx"));
 }
 
@@ -58,8 +58,20 @@ TEST_F(InteractiveProgram, CancellingTheFileDialogAndSayingYesIsExitStatus130) {
     EXPECT_THAT(result.out, HasSubstr("WXB32755Q "));
 }
 
+TEST_F(InteractiveProgram, TheFileDialogShowsItsPageOfTheHelp) {
+    const ProcessResult result = Answer("o\nh\nresult\ny\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, HasSubstr("Name of the definition file\n====="));
+}
+
+TEST_F(InteractiveProgram, SayingNoToANewFileAsksForAnotherName) {
+    EXPECT_EQ(Answer("o\nfirst\nn\nresult\ny\n").status, 0);
+    EXPECT_FALSE(Exists("first.wpx"));
+    EXPECT_TRUE(Exists("result.wpx"));
+}
+
 TEST_F(InteractiveProgram, TheEndOfTheInputEndsTheRunWhereverItComes) {
-    for (const std::string input : {"", "c\n", "1\n", "o\n", "o\nc\n"})
+    for (const std::string input : {"", "c\n", "1\n", "o\n", "o\nc\n", "o\nresult\n"})
         EXPECT_EQ(Answer(input).status, 130) << input;
 }
 
@@ -78,13 +90,13 @@ TEST_F(InteractiveProgram, ADatabaseThatIsNotThereIsToldWithItsFile) {
 TEST_F(InteractiveProgram, DatabasesLieInTheFolderThatIsStored) {
     std::filesystem::create_directory(folder / "data");
     std::filesystem::rename(folder / "orders.aml", folder / "data/orders.aml");
-    EXPECT_EQ(Answer("o\nresult\n").status, 1);
+    EXPECT_EQ(Answer("o\nresult\ny\n").status, 1);
     EXPECT_EQ(Run({"options", "set", "RepositoryPath", (folder / "data").string()}).status, 0);
-    EXPECT_EQ(Answer("o\nresult\n").status, 0);
+    EXPECT_EQ(Answer("o\nresult\ny\n").status, 0);
 }
 
 TEST_F(InteractiveProgram, ArgumentsAreJoinedByBlanks) {
-    EXPECT_EQ(Run({"/db", "orders", "/SEL={m1},New.orders,13", "/LOC:1033"}, "o\nresult\n").status, 0);
+    EXPECT_EQ(Run({"/db", "orders", "/SEL={m1},New.orders,13", "/LOC:1033"}, "o\nresult\ny\n").status, 0);
 }
 
 }  // namespace

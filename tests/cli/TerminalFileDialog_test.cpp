@@ -79,6 +79,39 @@ TEST_F(TerminalFileDialogTest, WithoutTheFlagAnExistingFileIsTakenUnasked) {
     EXPECT_EQ(Ask("old\n"), In("old.wpx"));
 }
 
+TEST_F(TerminalFileDialogTest, WithItsFlagAFileThatIsNotThereIsMadeOnlyOnAYes) {
+    settings.flags += FileDialogFlag::createPrompt;
+    EXPECT_EQ(Ask("new\nno\nother\nyes\n"), In("other.wpx"));
+    EXPECT_THAT(out.str(), HasSubstr(In("new.wpx") + " does not exist. Create it?"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "other.wpx"));
+    folder.Write("old.wpx", "x");
+    EXPECT_EQ(Ask("old\nyes\n"), In("old.wpx"));
+    EXPECT_EQ(Ask("new\n"), std::nullopt);
+}
+
+TEST_F(TerminalFileDialogTest, TheCreateQuestionComesOnlyForAFileThatMayBeMade) {
+    settings.flags += FileDialogFlag::createPrompt;
+    EXPECT_EQ(Ask("nowhere/new\nc\n"), std::nullopt);
+    EXPECT_THAT(out.str(), Not(HasSubstr("Create it?")));
+}
+
+TEST_F(TerminalFileDialogTest, WithItsFlagTheLetterHShowsTheHelpAndTheQuestionComesAgain) {
+    int helped = 0;
+    settings.flags += FileDialogFlag::showHelp;
+    settings.help = [&helped] {
+        ++helped;
+    };
+    EXPECT_EQ(Ask("h\nH\norders\n"), In("orders.wpx"));
+    EXPECT_EQ(helped, 2);
+    EXPECT_THAT(out.str(), HasSubstr("(h: help, c: cancel)"));
+    EXPECT_EQ(Ask("./h\n"), In("./h.wpx"));
+}
+
+TEST_F(TerminalFileDialogTest, WithoutTheFlagTheLetterHIsAName) {
+    EXPECT_EQ(Ask("h\n"), In("h.wpx"));
+    EXPECT_THAT(out.str(), Not(HasSubstr("help")));
+}
+
 TEST_F(TerminalFileDialogTest, AFolderThatIsNotThereIsTold) {
     EXPECT_EQ(Ask("nowhere/orders\norders\n"), In("orders.wpx"));
     EXPECT_THAT(out.str(), HasSubstr("There is no folder " + In("nowhere")));

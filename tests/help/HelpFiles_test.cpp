@@ -10,6 +10,7 @@
 #include <stdexcept>
 
 #include "options/FormControls.h"
+#include "options/modHelp.h"
 #include "platform/HelpBook.h"
 #include "platform/posix/DlLanguageLibraries.h"
 #include "platform/terminal/lines/FormCaption.h"
@@ -84,7 +85,7 @@ std::map<const FormControl*, std::string_view> OptionControls() {
 }
 
 Numbers HelpNumbers() {
-    Numbers numbers{formHelpNumber};
+    Numbers numbers{formHelpNumber, outputFileHelpNumber};
     for (const FormControl& control : formControls)
         if (control.helpNumber != 0) numbers.insert(control.helpNumber);
     return numbers;
@@ -98,7 +99,7 @@ Numbers LinksOf(const HelpPage& page) {
     return links;
 }
 
-TEST_P(HelpFile, HasAPageForEachHelpNumberOfTheFormAndNoOther) {
+TEST_P(HelpFile, HasAPageForEachHelpNumberOfTheFormAndTheFileDialogAndNoOther) {
     Numbers pages;
     for (const HelpPage& page : book_.Pages()) EXPECT_TRUE(pages.insert(page.number).second) << page.number;
     EXPECT_THAT(pages, testing::ContainerEq(HelpNumbers()));

@@ -7,8 +7,11 @@
 #include <QPixmap>
 #include <QScreen>
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <future>
+#include <sstream>
+#include <thread>
 
 #include "tests/cli/ProgramFixture.h"
 #include "tests/qt/VirtualDisplay.h"
@@ -43,16 +46,32 @@ class DesktopProgram : public ProgramTest {
             return RunProcess(arguments, {{}, folder.Path(), environment});
         });
     }
-    /// Waits for a window by a part of its title, gives it the keyboard and presses keys.
-    void Press(const std::string& title, std::vector<std::string> keys) const {
-        Control({"search", "--sync", "--onlyvisible", "--name", title, "windowfocus", "--sync"});
+    /// Waits for a window by a part of its title, gives it the keyboard and presses keys. Returns the window.
+    std::string Press(const std::string& title, std::vector<std::string> keys,
+                      const std::string& behind = {}) const {
+        const std::string window = WindowOf(title, behind);
+        Control({"windowfocus", "--sync", window});
         keys.insert(keys.begin(), {"key", "--delay", "100"});
         Control(std::move(keys));
+        return window;
     }
-    void Control(std::vector<std::string> arguments) const {
+    /// The visible window whose title holds a text, as soon as there is one that is not `behind`.
+    std::string WindowOf(const std::string& title, const std::string& behind) const {
+        const auto giveUp = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+        while (std::chrono::steady_clock::now() < giveUp) {
+            std::istringstream windows(Control({"search", "--sync", "--onlyvisible", "--name", title}));
+            for (std::string window; windows >> window;)
+                if (window != behind) return window;
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        }
+        ADD_FAILURE() << "no window " << title;
+        return {};
+    }
+    std::string Control(std::vector<std::string> arguments) const {
         arguments.insert(arguments.begin(), {"timeout", "60", "xdotool"});
         const ProcessResult done = RunProcess(arguments, {{}, ".", environment});
         EXPECT_EQ(done.status, 0) << done.err;
+        return done.out;
     }
     /// Keeps a picture of the screen beside the build.
     void Photograph(const std::string& name) const {
@@ -76,7 +95,8 @@ TEST_F(DesktopProgram, ExportsFromTheArisCommandLineToTheWrittenFile) {
     Press("export options", {"alt+i", "7"});
     Photograph("options.png");
     Press("export options", {"Return"});
-    Press("Save As", {"o", "u", "t", "Return"});
+    const std::string fileDialog = Press("Save As", {"o", "u", "t", "Return"});
+    Press("Save As", {"Return"}, fileDialog);  // the question whether to create the file
     const ProcessResult result = run.get();
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "");
@@ -97,7 +117,7 @@ TEST_F(DesktopProgram, CancelIsAskedAboutInABoxAndEndsTheRun) {
 
 TEST_F(DesktopProgram, ADisplayThatCannotBeOpenedIsToldAndTheTerminalServes) {
     environment["DISPLAY"] = ":9999";
-    const ProcessResult result = Run(arisArguments, "o\nresult\n");
+    const ProcessResult result = Run(arisArguments, "o\nresult\ny\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.err, AllOf(StartsWith("wxbrg: The display cannot be opened: "), HasSubstr(":9999"),
                                   testing::EndsWith("; the terminal is used instead.\n")));
@@ -111,7 +131,7 @@ TEST_F(DesktopProgram, AMissingModuleIsToldAndTheTerminalServes) {
     fs::copy(program.parent_path() / "wxbrgENU.dll", folder / "wxbrgENU.dll");
     std::vector<std::string> arguments{(folder / "wxbrg").string()};
     arguments.insert(arguments.end(), arisArguments.begin(), arisArguments.end());
-    const ProcessResult result = RunProcess(arguments, {"o\nresult\n", folder.Path(), environment});
+    const ProcessResult result = RunProcess(arguments, {"o\nresult\ny\n", folder.Path(), environment});
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.err, AllOf(StartsWith("wxbrg: The desktop module cannot be loaded: "),
                                   HasSubstr("wxbrg_desktop.so")));

@@ -5,6 +5,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -33,11 +34,14 @@ void MakeUnwritable(const std::filesystem::path& file) {
 class QtFileDialogTest : private HiddenSession, public testing::Test {
   protected:
     QtFileDialogTest() {
-        settings.flags = 567318;
+        settings.flags = 567318 - FileDialogFlag::createPrompt;
         settings.initialDirectory = folder.Path().string();
         settings.fileName = "*.wpx";
         settings.filter = "Workplex Files (*.wpx)|*.wpx|All Files (*.*)|*.*";
         settings.defaultExtension = "wpx";
+        settings.help = [this] {
+            ++helped;
+        };
     }
 
     /// Asks a user who does these things, one after the other, each behind what opened last.
@@ -46,7 +50,7 @@ class QtFileDialogTest : private HiddenSession, public testing::Test {
         Soon([this] {
             Next();
         });
-        std::optional<std::string> name = QtFileDialog("ENU").AskSaveName(settings);
+        std::optional<std::string> name = QtFileDialog(language).AskSaveName(settings);
         EXPECT_TRUE(acts_.empty()) << "the dialog was over before the user was";
         return name;
     }
@@ -79,6 +83,8 @@ class QtFileDialogTest : private HiddenSession, public testing::Test {
     TemporaryFolder folder;
     FileDialogSettings settings;
     std::vector<std::string> boxes;
+    std::string language = "ENU";
+    int helped = 0;
 
   private:
     void Next() {
@@ -149,6 +155,54 @@ TEST_F(QtFileDialogTest, WithoutTheFlagNothingIsAskedAboutAnExistingFile) {
     settings.flags -= FileDialogFlag::overwritePrompt;
     WriteBytes(folder / "old.wpx", "old");
     EXPECT_EQ(Ask({Save("old.wpx")}), In("old.wpx"));
+}
+
+TEST_F(QtFileDialogTest, WithItsFlagAFileThatIsNotThereIsMadeOnlyWhenTheUserSaysSo) {
+    settings.flags += FileDialogFlag::createPrompt;
+    EXPECT_EQ(Ask({Save("a"), Press(QMessageBox::No), Save("out.wpx"), Press(QMessageBox::Yes)}),
+              In("out.wpx"));
+    EXPECT_THAT(boxes, ElementsAre("a.wpx does not exist.\nDo you want to create it?",
+                                   "out.wpx does not exist.\nDo you want to create it?"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "out.wpx"));
+}
+
+TEST_F(QtFileDialogTest, TheCreateQuestionIsInTheLanguageOfTheDialog) {
+    settings.flags += FileDialogFlag::createPrompt;
+    language = "DEU";
+    EXPECT_EQ(Ask({Save("out"), Press(QMessageBox::Yes)}), In("out.wpx"));
+    EXPECT_THAT(boxes, ElementsAre("Die Datei out.wpx existiert nicht.\nSoll sie angelegt werden?"));
+}
+
+TEST_F(QtFileDialogTest, OfOneNameOnlyOneThingIsAsked) {
+    settings.flags += FileDialogFlag::createPrompt;
+    WriteBytes(folder / "old.wpx", "old");
+    EXPECT_EQ(Ask({Save("old.wpx"), Press(QMessageBox::Yes)}), In("old.wpx"));
+    EXPECT_EQ(Ask({Save("nowhere/out"), Press(QMessageBox::Ok), Cancel()}), std::nullopt);
+}
+
+TEST_F(QtFileDialogTest, TheHelpButtonAndF1ShowTheHelp) {
+    Ask({[] {
+             auto* const buttons = Dialog().findChild<QDialogButtonBox*>();
+             ASSERT_NE(buttons->button(QDialogButtonBox::Help), nullptr);
+             buttons->button(QDialogButtonBox::Help)->click();
+         },
+         [this] {
+             EXPECT_EQ(helped, 1);
+             QTest::keyClick(Dialog().focusWidget(), Qt::Key_F1);
+         },
+         Cancel()});
+    EXPECT_EQ(helped, 2);
+}
+
+TEST_F(QtFileDialogTest, WithoutTheFlagThereIsNoHelp) {
+    settings.flags -= FileDialogFlag::showHelp;
+    settings.help = nullptr;
+    Ask({[] {
+             auto* const buttons = Dialog().findChild<QDialogButtonBox*>();
+             EXPECT_EQ(buttons->button(QDialogButtonBox::Help), nullptr);
+             QTest::keyClick(Dialog().focusWidget(), Qt::Key_F1);
+         },
+         Cancel()});
 }
 
 TEST_F(QtFileDialogTest, AFolderThatIsNotThereIsToldAndTheDialogComesAgain) {

@@ -46,6 +46,13 @@ TEST_F(FileSelectDialogTest, ShowsASaveDialogForDefinitionFiles) {
     EXPECT_EQ(settings.filterIndex, 1);
 }
 
+TEST_F(FileSelectDialogTest, TheHelpIsThePageAboutTheOutputFile) {
+    gBlock.gHelpFile = "wxbrgDEU.hlp";
+    Select("file out.wpx");
+    fileDialog_.shown.front().help();
+    EXPECT_THAT(helpViewer_.shown, ElementsAre("wxbrgDEU.hlp#50100"));
+}
+
 TEST_F(FileSelectDialogTest, BeginsWithFolderAndNameOfTheToolIntegration) {
     Store("OutputPath", std::string("/exports"));
     Store("OutputFileName", std::string("orders.wpx"));

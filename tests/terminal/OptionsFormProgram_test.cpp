@@ -45,7 +45,8 @@ class OptionsFormProgram : public cli::ProgramTest {
         NameFile();
     }
     void NameFile() const {
-        Press({"result", "Enter"}, "ended with 0");
+        Press({"result", "Enter"}, "Create it?");
+        Press({"y", "Enter"}, "ended with 0");
         EXPECT_TRUE(Exists("result.wpx"));
         ExpectTerminalAsBefore();
     }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/terminal/form/FormButtons.h"
 #include "platform/terminal/lines/FormCaption.h"
 #include "support/Text.h"
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/terminal/form/FormButtons.h"
 #include "platform/terminal/form/ScreenFormPage.h"
 #include "platform/terminal/form/ScreenText.h"
 #include "support/Text.h"

@@ -1,6 +1,5 @@
 #include "platform/terminal/lines/TerminalFileDialog.h"
 
-#include <fstream>
 #include <stdexcept>
 #include <system_error>
 
@@ -11,9 +10,14 @@ namespace wxbrg {
 
 namespace {
 
-/// Whether an existing file can be opened for writing; it is not changed.
-bool IsWritable(const std::filesystem::path& file) {
-    return std::fstream(file, std::ios::in | std::ios::out | std::ios::binary).is_open();
+constexpr std::string_view cancelLetter = "C";
+constexpr std::string_view helpLetter = "H";
+
+std::string PromptOf(const FileDialogSettings& settings, const std::string& proposed) {
+    std::string prompt = "Output file (";
+    if (!proposed.empty()) prompt += "Enter: " + proposed + ", ";
+    if (settings.Has(FileDialogFlag::showHelp)) prompt += "h: help, ";
+    return prompt + "c: cancel): ";
 }
 
 }  // namespace
@@ -23,46 +27,60 @@ std::optional<std::string> TerminalFileDialog::AskSaveName(const FileDialogSetti
     const std::string proposed = IsPattern(settings.fileName) ? std::string() : settings.fileName;
     terminal_.Tell("");
     if (!settings.initialDirectory.empty()) terminal_.Tell("Folder: " + settings.initialDirectory);
-    const std::string prompt =
-        "Output file (" + (proposed.empty() ? std::string() : "Enter: " + proposed + ", ") + "c: cancel): ";
     for (;;) {
-        const std::optional<std::string> answer = terminal_.Ask(prompt);
+        const std::optional<std::string> answer = terminal_.Ask(PromptOf(settings, proposed));
         inputHasEnded_ = !answer;
-        if (!answer || UpperCase(*answer) == "C") return std::nullopt;
-        std::string name = answer->empty() ? proposed : *answer;
-        if (name.empty()) continue;
-        if (IsPattern(name)) {
-            terminal_.Tell(name + " is a pattern; please give the name of a file.");
+        if (!answer || UpperCase(*answer) == cancelLetter) return std::nullopt;
+        if (settings.Has(FileDialogFlag::showHelp) && UpperCase(*answer) == helpLetter) {
+            settings.help();
             continue;
         }
-        name = WithDefaultExtension(std::move(name), settings.defaultExtension);
-        const std::filesystem::path file = PathOf(settings.initialDirectory) / PathOf(name);
-        if (Accept(file, settings.flags)) return TextOf(file);
+        const std::optional<std::filesystem::path> file =
+            FileOf(answer->empty() ? proposed : *answer, settings);
+        if (file && Accept(*file, settings)) return TextOf(*file);
         if (inputHasEnded_) return std::nullopt;
     }
 }
 
-bool TerminalFileDialog::Accept(const std::filesystem::path& file, std::int32_t flags) {
+std::optional<std::filesystem::path> TerminalFileDialog::FileOf(const std::string& name,
+                                                                const FileDialogSettings& settings) {
+    if (name.empty()) return std::nullopt;
+    if (IsPattern(name)) {
+        terminal_.Tell(name + " is a pattern; please give the name of a file.");
+        return std::nullopt;
+    }
+    return PathOf(settings.initialDirectory) /
+           PathOf(WithDefaultExtension(name, settings.defaultExtension));
+}
+
+bool TerminalFileDialog::Accept(const std::filesystem::path& file, const FileDialogSettings& settings) {
     std::error_code error;
     if (std::filesystem::is_directory(file, error)) {
         terminal_.Tell(TextOf(file) + " is a folder; please give the name of a file.");
         return false;
     }
     const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
-    if ((flags & FileDialogFlag::pathMustExist) != 0 && !std::filesystem::is_directory(folder, error)) {
+    if (settings.Has(FileDialogFlag::pathMustExist) && !std::filesystem::is_directory(folder, error)) {
         terminal_.Tell("There is no folder " + TextOf(folder) + "; please check the name.");
         return false;
     }
-    return !std::filesystem::exists(file, error) || AcceptExisting(file, flags);
+    if (std::filesystem::exists(file, error)) return AcceptExisting(file, settings);
+    return !settings.Has(FileDialogFlag::createPrompt) ||
+           Agrees(TextOf(file) + " does not exist. Create it?");
 }
 
-bool TerminalFileDialog::AcceptExisting(const std::filesystem::path& file, std::int32_t flags) {
-    if ((flags & FileDialogFlag::noReadOnlyReturn) != 0 && !IsWritable(file)) {
+bool TerminalFileDialog::AcceptExisting(const std::filesystem::path& file,
+                                        const FileDialogSettings& settings) {
+    if (settings.Has(FileDialogFlag::noReadOnlyReturn) && !IsWritable(file)) {
         terminal_.Tell(TextOf(file) + " cannot be written; please choose another name.");
         return false;
     }
-    if ((flags & FileDialogFlag::overwritePrompt) == 0) return true;
-    const std::optional<bool> answer = terminal_.AskYesOrNo(TextOf(file) + " already exists. Replace it?");
+    return !settings.Has(FileDialogFlag::overwritePrompt) ||
+           Agrees(TextOf(file) + " already exists. Replace it?");
+}
+
+bool TerminalFileDialog::Agrees(const std::string& question) {
+    const std::optional<bool> answer = terminal_.AskYesOrNo(question);
     inputHasEnded_ = !answer;
     return answer.value_or(false);
 }
