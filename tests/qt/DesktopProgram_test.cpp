@@ -115,6 +115,20 @@ TEST_F(DesktopProgram, CancelIsAskedAboutInABoxAndEndsTheRun) {
     EXPECT_FALSE(Exists("out.wpx"));
 }
 
+TEST_F(DesktopProgram, AMissingLanguageLibraryIsToldInAWindowAndEndsTheRun) {
+    EXPECT_EQ(Run({"options", "set", "Language", "XYZ"}).status, 0);
+    std::future<ProcessResult> run = Start();
+    WindowOf("^ARIS to Tarnlight Workflow Bridge$", {});
+    EXPECT_EQ(run.wait_for(std::chrono::milliseconds(200)), std::future_status::timeout);
+    Photograph("no-language-library.png");
+    Press("^ARIS to Tarnlight Workflow Bridge$", {"Return"});
+    const ProcessResult result = run.get();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.err, Not(HasSubstr("terminal")));
+    EXPECT_FALSE(Exists("out.wpx"));
+}
+
 TEST_F(DesktopProgram, ADisplayThatCannotBeOpenedIsToldAndTheTerminalServes) {
     environment["DISPLAY"] = ":9999";
     const ProcessResult result = Run(arisArguments, "o\nresult\ny\n");
