@@ -1,7 +1,10 @@
 #include "cli/OptionSettings.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <span>
 
 #include "cli/UsageError.h"
 #include "support/Numbers.h"
@@ -11,76 +14,76 @@ namespace wxbrg::cli {
 
 namespace {
 
-constexpr std::array storedTexts{languageValue, repositoryPathValue};
-
 bool IsSame(std::string_view a, std::string_view b) {
     return UpperCase(a) == UpperCase(b);
 }
 
-std::string Listed(std::string message, const std::vector<std::string_view>& names) {
+std::vector<std::string_view> NamesOf(std::span<const ExportOption> options) {
+    std::vector<std::string_view> names;
+    for (const ExportOption& option : options) names.push_back(option.valueName);
+    return names;
+}
+
+std::string Listed(std::string message, std::span<const ExportOption> options) {
     message += " The names are:";
-    for (const std::string_view name : names) message.append("\n  ").append(name);
+    for (const std::string_view name : NamesOf(options)) message.append("\n  ").append(name);
     return message;
 }
 
-std::vector<std::string_view> OptionNames() {
-    std::vector<std::string_view> names;
-    for (const ExportOption& option : exportOptions) names.push_back(option.valueName);
-    return names;
+/// A number that an option takes. Throws `UsageError` for any other text.
+std::int32_t NumberFor(const ExportOption& option, std::string_view text) {
+    std::optional<std::int32_t> number;
+    try {
+        number = ToInt32(text, U'.');
+    } catch (const Failure&) {
+        number.reset();  // no number of 32 bits: refused below as one out of range is
+    }
+    if (number && option.Takes(*number)) return *number;
+    const std::string range =
+        option.kind == OptionKind::flag
+            ? "-1 (on) or 0 (off)"
+            : "a number from 0 to " + std::to_string(std::numeric_limits<std::int32_t>::max());
+    throw UsageError("The value of " + std::string(option.valueName) + " must be " + range + ", not " +
+                     InQuotes(text) + ".");
 }
 
 }  // namespace
 
 const ExportOption* FindOption(std::string_view name) {
-    const auto found =
-        std::find_if(exportOptions.begin(), exportOptions.end(), [&](const ExportOption& option) {
+    const auto* const found =
+        std::find_if(storedOptions.begin(), storedOptions.end(), [&](const ExportOption& option) {
             return IsSame(option.valueName, name);
         });
-    return found == exportOptions.end() ? nullptr : &*found;
-}
-
-std::int32_t OptionNumber(std::string_view name, std::string_view text) {
-    try {
-        return ToInt32(text, U'.');
-    } catch (const Failure&) {
-        throw UsageError(Listed("The value of " + std::string(name) + " must be a number of 32 bits, and " +
-                                    InQuotes(text) + " is none.",
-                                OptionNames()));
-    }
+    return found == storedOptions.end() ? nullptr : found;
 }
 
 OptionSetting ParseSetting(std::string_view setting) {
     const std::size_t equals = setting.find('=');
     if (equals == std::string_view::npos)
         throw UsageError(
-            Listed("--set takes Name=Value, and " + InQuotes(setting) + " holds no \"=\".", OptionNames()));
+            Listed("--set takes Name=Value, and " + InQuotes(setting) + " holds no \"=\".", exportOptions));
     const std::string_view name = Trim(setting.substr(0, equals));
     const ExportOption* option = FindOption(name);
-    if (option == nullptr)
-        throw UsageError(Listed("There is no export option " + InQuotes(name) + ".", OptionNames()));
-    return {option->valueName, OptionNumber(option->valueName, setting.substr(equals + 1))};
+    if (option == nullptr || !isExportOption(*option))
+        throw UsageError(Listed("There is no export option " + InQuotes(name) + ".", exportOptions));
+    return {option->valueName, NumberFor(*option, setting.substr(equals + 1))};
 }
 
 OptionSetting ParseStoredValue(std::string_view name, std::string_view value) {
-    const std::string_view spelled = StoredValueName(name);
-    if (FindOption(spelled) != nullptr) return {spelled, OptionNumber(spelled, value)};
-    return {spelled, std::string(value)};
+    const ExportOption& option = StoredOption(name);
+    if (isExportOption(option)) return {option.valueName, NumberFor(option, value)};
+    return {option.valueName, std::string(value)};
 }
 
 std::vector<std::string_view> StoredValueNames() {
-    std::vector<std::string_view> names = OptionNames();
-    names.insert(names.end(), storedTexts.begin(), storedTexts.end());
-    return names;
+    return NamesOf(storedOptions);
 }
 
-std::string_view StoredValueName(std::string_view name) {
-    const std::vector<std::string_view> names = StoredValueNames();
-    const auto found = std::find_if(names.begin(), names.end(), [&](std::string_view candidate) {
-        return IsSame(candidate, name);
-    });
-    if (found == names.end())
-        throw UsageError(Listed("There is no stored option " + InQuotes(name) + ".", names));
-    return *found;
+const ExportOption& StoredOption(std::string_view name) {
+    const ExportOption* const option = FindOption(name);
+    if (option == nullptr)
+        throw UsageError(Listed("There is no stored option " + InQuotes(name) + ".", storedOptions));
+    return *option;
 }
 
 }  // namespace wxbrg::cli

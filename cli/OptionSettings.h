@@ -16,26 +16,20 @@ struct OptionSetting {
     ProfileValue value;
 };
 
-/// The option of a name, without regard to ASCII case, or null.
+/// The stored option of a name, without regard to case, or null.
 const ExportOption* FindOption(std::string_view name);
 
-/// The number that a text stands for: an optional sign and digits, or what else passes as a number of 32
-/// bits. Throws `UsageError`, naming `name`, for any other text.
-std::int32_t OptionNumber(std::string_view name, std::string_view text);
+/// The same; throws `UsageError`, listing the names there are, where there is none.
+const ExportOption& StoredOption(std::string_view name);
 
-/// Reads "Name=Value" as an export option. Throws `UsageError`, listing the names there are, for an unknown
-/// name, for a text without "=" and for a value that is no number.
+/// Reads "Name=Value" as an export option. Throws `UsageError` for an unknown name and for a text without
+/// "=", listing the names there are, and for a value that the option does not take, saying which it takes.
 OptionSetting ParseSetting(std::string_view setting);
 
-/// Reads a value for any stored value that the user may set: an export option, or one of the texts
-/// "Language" and "RepositoryPath". Throws `UsageError` as `ParseSetting` does.
+/// Reads a value for any stored option, texts among them. Throws `UsageError` as `ParseSetting` does.
 OptionSetting ParseStoredValue(std::string_view name, std::string_view value);
 
-/// The names of all stored values that the user may set: the export options in their order, then the texts.
+/// The names of all stored options, in the order of their table.
 std::vector<std::string_view> StoredValueNames();
-
-/// The stored value of a name, without regard to ASCII case, as it is spelled. Throws `UsageError`, listing
-/// the names there are, where there is none.
-std::string_view StoredValueName(std::string_view name);
 
 }  // namespace wxbrg::cli

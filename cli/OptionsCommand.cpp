@@ -16,29 +16,29 @@ struct ValueAndOrigin {
     std::string_view origin;
 };
 
-ProfileValue DefaultOf(std::string_view name) {
-    if (const ExportOption* option = FindOption(name)) return option->ByDefault();
-    return name == languageValue ? std::string(defaultLanguage) : std::string();
+ProfileValue DefaultOf(const ExportOption& option) {
+    if (option.kind == OptionKind::text) return std::string(option.textByDefault);
+    return option.byDefault;
 }
 
-ValueAndOrigin InForce(const ProfileStore& store, std::string_view name) {
-    ProfileValue value = store.Read(ProfileScope::user, programKey, name);
+ValueAndOrigin InForce(const ProfileStore& store, const ExportOption& option) {
+    ProfileValue value = store.Read(ProfileScope::user, programKey, option.valueName);
     if (!std::holds_alternative<std::monostate>(value)) return {std::move(value), "user"};
-    value = store.Read(ProfileScope::machine, programKey, name);
+    value = store.Read(ProfileScope::machine, programKey, option.valueName);
     if (!std::holds_alternative<std::monostate>(value)) return {std::move(value), "machine"};
-    return {DefaultOf(name), "default"};
+    return {DefaultOf(option), "default"};
 }
 
 int List(const ToolEnvironment& environment) {
-    for (const std::string_view name : StoredValueNames()) {
-        const ValueAndOrigin found = InForce(environment.profileStore, name);
-        environment.out << name << '\t' << TextOf(found.value) << '\t' << found.origin << '\n';
+    for (const ExportOption& option : storedOptions) {
+        const ValueAndOrigin found = InForce(environment.profileStore, option);
+        environment.out << option.valueName << '\t' << TextOf(found.value) << '\t' << found.origin << '\n';
     }
     return ExitStatus::normal;
 }
 
 int Get(const std::string& name, const ToolEnvironment& environment) {
-    environment.out << TextOf(InForce(environment.profileStore, StoredValueName(name)).value) << '\n';
+    environment.out << TextOf(InForce(environment.profileStore, StoredOption(name)).value) << '\n';
     return ExitStatus::normal;
 }
 
@@ -52,7 +52,7 @@ int Set(const OptionsArguments& given, const ToolEnvironment& environment) {
 
 int Reset(const std::string& name, const ToolEnvironment& environment) {
     std::vector<std::string_view> names = StoredValueNames();
-    if (!name.empty()) names = {StoredValueName(name)};
+    if (!name.empty()) names = {StoredOption(name).valueName};
     int status = ExitStatus::normal;
     for (const std::string_view each : names) {
         if (environment.profileStore.Remove(programKey, each)) continue;

@@ -125,7 +125,7 @@ void AddOptions(CLI::App& app, ToolArguments& arguments) {
     get->add_option("NAME", given.name, "Option to print")->required();
     CLI::App* set = AddAction(command, "set", "Store a value", OptionsAction::set, given.action);
     set->add_option("NAME", given.name, "Option to store")->required();
-    set->add_option("VALUE", given.value, "Its value: a number, -1 and 0 for True and False, or a text")
+    set->add_option("VALUE", given.value, "Its value: -1 (on) or 0 (off), a number from 0 on, or a text")
         ->required();
     CLI::App* reset = AddAction(command, "reset", "Take stored values away, so that the defaults count again",
                                 OptionsAction::reset, given.action);

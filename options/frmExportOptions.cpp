@@ -23,7 +23,7 @@ constexpr std::size_t suffixField = FindControl([](const FormControl& control) {
     return control.kind == FormControlKind::textField;
 });
 constexpr std::size_t applyButton = FindControl([](const FormControl& control) {
-    return control.name == "cmdApply";
+    return control.name == FormButton::apply;
 });
 static_assert(suffixField < formControls.size() && applyButton < formControls.size());
 
@@ -88,13 +88,13 @@ void frmExportOptions::Activate() {
 void frmExportOptions::LoadOptions() {
     for (const ExportOption& option : exportOptions) {
         const ProfileValue stored = GetProfileValue(programKey, option.valueName);
-        Control& control = StateOf(*option.control);
+        Control& control = StateOf(ControlOf(option));
         if (option.IsNumber()) {
             LoadNumber(stored, control);
             continue;
         }
         if (!std::holds_alternative<std::monostate>(stored)) {
-            Check(*option.control, IsTrue(stored));
+            Check(ControlOf(option), IsTrue(stored));
             SetDirty(true);
         }
         gBlock.*option.flag = control.checked;
@@ -114,7 +114,7 @@ void frmExportOptions::LoadNumber(const ProfileValue& stored, Control& control) 
 
 void frmExportOptions::SaveOptions() {
     for (const ExportOption* option : SaveOrder()) {
-        const Control& control = StateOf(*option->control);
+        const Control& control = StateOf(ControlOf(*option));
         if (option->IsNumber()) {
             const std::int32_t number = control.text.empty() ? 0 : ToInt32(control.text, DecimalSeparator());
             SetProfileValue(programKey, option->valueName, number, ProfileType::number);

@@ -24,6 +24,10 @@ _wxbrg_option_names() {
         'FindControlFlowLoops StartConditions ExitConditions TransitionConditions DataTypeFromAttribute'
 }
 
+_wxbrg_text_names() {
+    echo 'Language RepositoryPath'
+}
+
 _wxbrg_files() {
     # Folders, and files whose names end in one of the remaining arguments; all files without any.
     local current=$1 ending
@@ -62,7 +66,7 @@ _wxbrg() {
         'profile check:'* | 'profile diff:'*) files=(_wxbrg_files "$current" .prf) ;;
         replay:*) files=(compgen -d -- "$current") ;;
         'options get:'* | 'options set:'* | 'options reset:'*)
-            ((COMP_CWORD == 3)) && words="$(_wxbrg_option_names) Language RepositoryPath"
+            ((COMP_CWORD == 3)) && words="$(_wxbrg_option_names) $(_wxbrg_text_names)"
             ;;
         *) words=$(_wxbrg_words "$command") ;;
         esac

@@ -68,7 +68,7 @@ void SilentRun::Begin() {
     gBlock.gLocale = english;
     gBlock.gDataStructureNamePrefix = "DATA_STRUCTURE_";
     for (const ExportOption& option : exportOptions)
-        if (option.flag != nullptr) gBlock.*option.flag = option.ByDefault() != 0;
+        if (option.flag != nullptr) gBlock.*option.flag = option.byDefault != 0;
     CreateDefaultMappingRules();
     gBlock.gCurrentProcedure = "modMain.Main";
 }

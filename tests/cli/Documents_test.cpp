@@ -1,15 +1,17 @@
-// The manual page and the completion tell exactly the subcommands and options that there are.
+// The manual page, the completion and the README tell exactly the subcommands and options that there are.
 
 #include <gmock/gmock.h>
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <regex>
 #include <set>
+#include <span>
 #include <sstream>
 
 #include "cli/OptionSettings.h"
@@ -130,13 +132,85 @@ TEST_F(Documents, ManualPageNamesTheArgumentsOfEachSubcommand) {
             }
 }
 
-TEST_F(Documents, ManualPageTellsEachExportOptionWithItsDefault) {
-    const std::string page = ReadAll(packaging + "/wxbrg.1");
-    for (const ExportOption& option : exportOptions) {
-        const std::string byDefault = option.ByDefault() < 0 ? "\\-1" : std::to_string(option.ByDefault());
-        EXPECT_THAT(page, HasSubstr(".BR " + std::string(option.valueName) + " \" (" + byDefault + ")\"\n"));
+/// A part of a document that is written out of the table of stored options: all between two lines.
+struct OptionPart {
+    const char* file;
+    const char* above;  ///< the line above it
+    const char* below;  ///< what begins the line below it
+    std::string (*write)();
+};
+
+/// The default as it is typed; empty for none.
+std::string DefaultOf(const ExportOption& option) {
+    return option.kind == OptionKind::text ? std::string(option.textByDefault)
+                                           : std::to_string(option.byDefault);
+}
+
+std::string RowsOfReadme() {
+    std::string rows;
+    for (const ExportOption& option : storedOptions) {
+        const std::string byDefault = DefaultOf(option);
+        rows += "| `" + std::string(option.valueName) + "` |" + (byDefault.empty() ? "" : " " + byDefault) +
+                " | " + std::string(option.english) + " |\n";
     }
-    for (const std::string_view name : StoredValueNames()) EXPECT_THAT(page, HasSubstr(std::string(name)));
+    return rows;
+}
+
+std::string ParagraphsOfManual() {
+    std::string paragraphs;
+    for (const ExportOption& option : storedOptions) {
+        const std::string byDefault = std::regex_replace(DefaultOf(option), std::regex("-"), "\\-");
+        const std::string name(option.valueName);
+        paragraphs += ".TP\n";
+        paragraphs += byDefault.empty() ? ".B " + name + '\n' : ".BR " + name + " \" (" + byDefault + ")\"\n";
+        paragraphs += std::string(option.english) + '\n';
+    }
+    return paragraphs;
+}
+
+/// The names as the words of `echo`, in lines of at most 110 characters.
+std::string WordsOfCompletion(std::span<const ExportOption> options) {
+    std::string lines = "    echo '";
+    std::size_t length = lines.size();
+    for (const ExportOption& option : options) {
+        const bool first = &option == &options.front();
+        const bool fits = length + option.valueName.size() + 4 <= 110;
+        if (!first) lines += fits ? " " : "' \\\n        '";
+        length = fits ? length + option.valueName.size() + 1 : 9 + option.valueName.size();
+        lines += option.valueName;
+    }
+    return lines + "'\n";
+}
+
+const OptionPart optionParts[] = {
+    {"../README.md", "| Name | Default | Meaning |\n|---|---|---|\n", "\n", RowsOfReadme},
+    {"wxbrg.1", ".\\\" The stored options, from their table.\n", ".SH ", ParagraphsOfManual},
+    {"wxbrg.bash", "_wxbrg_option_names() {\n", "}\n",
+     [] {
+         return WordsOfCompletion(exportOptions);
+     }},
+    {"wxbrg.bash", "_wxbrg_text_names() {\n", "}\n", [] {
+         return WordsOfCompletion(std::span(storedOptions).subspan(exportOptions.size()));
+     }}};
+
+TEST(OptionDocuments, AreAsTheTableOfOptionsHasThem) {
+    for (const OptionPart& part : optionParts) {
+        const std::string file = packaging + "/" + part.file;
+        std::string text = ReadAll(file);
+        const std::size_t above = text.find(part.above);
+        ASSERT_NE(above, std::string::npos) << file << " lacks the line " << part.above;
+        const std::size_t begin = above + std::string_view(part.above).size();
+        const std::size_t end = text.find("\n" + std::string(part.below), begin - 1) + 1;
+        const std::string written = text.substr(begin, end - begin);
+        if (written == part.write()) continue;
+        ADD_FAILURE() << file
+                      << ": not as the table of options has it; to write it anew, run this test with "
+                         "WXBRG_WRITE_DOCUMENTS=1\n"
+                      << written << "---\n"
+                      << part.write();
+        if (std::getenv("WXBRG_WRITE_DOCUMENTS") != nullptr)
+            std::ofstream(file) << text.replace(begin, end - begin, part.write());
+    }
 }
 
 /// What bash offers behind the words, the last of which is the one to complete.

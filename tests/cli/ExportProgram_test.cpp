@@ -77,12 +77,15 @@ TEST_F(ExportProgram, ALanguageThatTheExportDoesNotHoldIsRefusedWithThoseItHolds
     EXPECT_EQ(Run({"export", "one.aml", "-o", "out.wpx", "--locale", "1031"}).status, 0);
 }
 
-TEST_F(ExportProgram, AnUnknownOptionOrAValueThatIsNoNumberIsRefusedWithTheNames) {
+TEST_F(ExportProgram, AnUnknownOptionIsRefusedWithTheNamesAndAValueWithThoseItTakes) {
     WriteOneModel();
-    for (const std::string setting : {"Convert=0", "ConvertNames=no"}) {
+    for (const auto& [setting, told] :
+         {std::pair<std::string, std::string>{"Convert=0", "ConvertNames\n  RemoveLineBreaks"},
+          {"ConvertNames=1", "-1 (on) or 0 (off)"},
+          {"FirstSuffixNumber=-1", "from 0 to 2147483647"}}) {
         const ProcessResult result = Run({"export", "one.aml", "-o", "out.wpx", "--set", setting});
         EXPECT_EQ(result.status, 2) << setting;
-        EXPECT_THAT(result.err, HasSubstr("ConvertNames\n  RemoveLineBreaks"));
+        EXPECT_THAT(result.err, HasSubstr(told));
     }
     EXPECT_FALSE(Exists("out.wpx"));
 }

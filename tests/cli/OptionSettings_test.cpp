@@ -45,22 +45,35 @@ TEST(ParseSetting, RefusesUnknownNamesAndListsThoseThereAre) {
     });
 }
 
-TEST(ParseSetting, RefusesWhatIsNoNumberAndListsTheNames) {
-    ExpectRefusedWithNames([] {
-        ParseSetting("ConvertNames=yes");
-    });
-    ExpectRefusedWithNames([] {
-        ParseSetting("ConvertNames=");
-    });
+TEST(ParseSetting, RefusesATextWithoutAnEqualsSign) {
     ExpectRefusedWithNames([] {
         ParseSetting("ConvertNames");
     });
-    ExpectRefusedWithNames([] {
-        ParseSetting("FirstSuffixNumber=2147483648");
-    });
-    ExpectRefusedWithNames([] {
-        ParseSetting("FirstSuffixNumber=0x10");
-    });
+}
+
+/// Whether a setting is refused with a message that ends so.
+void ExpectRefused(const std::string& setting, const std::string& end) {
+    EXPECT_THAT(
+        [&setting] {
+            ParseSetting(setting);
+        },
+        ThrowsMessage<UsageError>(testing::EndsWith(end)));
+}
+
+TEST(ParseSetting, AFlagTakesMinus1And0Only) {
+    for (const std::string value : {"yes", "", "1", "2", "-2", "2147483648"})
+        ExpectRefused("convertnames=" + value,
+                      "The value of ConvertNames must be -1 (on) or 0 (off), not \"" + value + "\".");
+}
+
+TEST(ParseSetting, TheSuffixTakesNumbersFrom0On) {
+    EXPECT_EQ(ParseSetting("FirstSuffixNumber=0").value, ProfileValue(0));
+    EXPECT_EQ(ParseSetting("FirstSuffixNumber=2147483647").value, ProfileValue(2147483647));
+    for (const std::string value : {"-1", "-2147483648", "2147483648", "0x10", "x", ""})
+        ExpectRefused("FirstSuffixNumber=" + value,
+                      "The value of FirstSuffixNumber must be a number from 0 to "
+                      "2147483647, not \"" +
+                          value + "\".");
 }
 
 TEST(ParseSetting, RefusesTextsThatAreStoredButNoExportOptions) {
@@ -80,23 +93,24 @@ TEST(ParseStoredValue, RefusesUnknownNamesAndValues) {
     ExpectRefusedWithNames([] {
         ParseStoredValue("OutputPath", "x");
     });
-    ExpectRefusedWithNames([] {
-        ParseStoredValue("ConvertNames", "x");
-    });
+    EXPECT_THROW(ParseStoredValue("ConvertNames", "x"), UsageError);
+    EXPECT_THROW(ParseStoredValue("ConvertNames", "1"), UsageError);
+    EXPECT_THROW(ParseStoredValue("FirstSuffixNumber", "-1"), UsageError);
 }
 
 TEST(StoredValueNames, AreTheExportOptionsAndTheTexts) {
     const std::vector<std::string_view> names = StoredValueNames();
-    ASSERT_EQ(names.size(), exportOptions.size() + 2);
+    ASSERT_EQ(names.size(), 17U);
     EXPECT_EQ(names.front(), "ConvertNames");
     EXPECT_THAT(names, testing::IsSupersetOf({"Language", "RepositoryPath"}));
 }
 
 TEST(FindOption, FindsTheRowOrNone) {
     ASSERT_NE(FindOption("EXITCONDITIONS"), nullptr);
-    EXPECT_EQ(FindOption("EXITCONDITIONS")->control->name, "cbExitConditions");
+    EXPECT_EQ(FindOption("EXITCONDITIONS")->control.name, "cbExitConditions");
     EXPECT_EQ(FindOption("Exit"), nullptr);
-    EXPECT_EQ(FindOption("Language"), nullptr);
+    ASSERT_NE(FindOption("language"), nullptr);
+    EXPECT_EQ(FindOption("language")->kind, OptionKind::text);
 }
 
 }  // namespace

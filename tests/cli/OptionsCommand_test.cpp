@@ -85,6 +85,9 @@ TEST_F(OptionsCommandTest, UnknownNamesAreWrongUsage) {
     EXPECT_THROW(Run(OptionsAction::get, "Nonsense"), UsageError);
     EXPECT_THROW(Run(OptionsAction::set, "Nonsense", "1"), UsageError);
     EXPECT_THROW(Run(OptionsAction::set, "ConvertNames", "yes"), UsageError);
+    EXPECT_THROW(Run(OptionsAction::set, "ConvertNames", "1"), UsageError);
+    EXPECT_THROW(Run(OptionsAction::set, "FirstSuffixNumber", "-5"), UsageError);
+    EXPECT_EQ(system.profileStore.Dump(ProfileScope::user, programKey), "");
     EXPECT_THROW(Run(OptionsAction::reset, "Nonsense"), UsageError);
 }
 

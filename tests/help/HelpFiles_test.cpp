@@ -44,10 +44,12 @@ struct HelpLanguage {
     std::string tag;
     std::string on;   ///< how a page says that an option is on by default
     std::string off;  ///< or off
+    std::string_view ExportOption::*description;
 };
 
-const HelpLanguage languages[] = {{"ENU", "Default: on.", "Default: off."},
-                                  {"DEU", "Voreinstellung: ein.", "Voreinstellung: aus."}};
+const HelpLanguage languages[] = {
+    {"ENU", "Default: on.", "Default: off.", &ExportOption::english},
+    {"DEU", "Voreinstellung: ein.", "Voreinstellung: aus.", &ExportOption::german}};
 
 class HelpFile : public testing::TestWithParam<HelpLanguage> {
   protected:
@@ -143,6 +145,15 @@ TEST_P(HelpFile, FirstParagraphsAreShortAndPlain) {
         EXPECT_THAT(CharacterCount(paragraph), testing::AllOf(testing::Ge(40U), testing::Le(340U)))
             << page.number;
         EXPECT_THAT(paragraph, testing::MatchesRegex(R"(^[^][`*#]*[.]$)")) << page.number;
+    }
+}
+
+TEST_P(HelpFile, PagesOfOptionsBeginWithTheDescriptionOfTheirOption) {
+    for (const ExportOption& option : exportOptions) {
+        const std::string_view description = option.*GetParam().description;
+        EXPECT_THAT(FirstParagraph(Page(option.control.helpNumber)) + ' ',
+                    testing::StartsWith(std::string(description) + ' '))
+            << option.valueName;
     }
 }
 

@@ -132,18 +132,17 @@ TEST_F(FormWindow, OkOnACleanFormStoresNothingAndClosesTheWindow) {
 TEST_F(FormWindow, EveryCheckBoxMakesTheFormDirtyAndIsStoredByOk) {
     ShowWindow([&] {
         for (const ExportOption& option : exportOptions) {
-            if (option.control->kind != FormControlKind::checkBox) continue;
-            const std::string name(option.control->name);
+            if (option.control.kind != FormControlKind::checkBox) continue;
+            const std::string name(option.control.name);
             ClickOn(name.c_str());
-            EXPECT_EQ(Find<QCheckBox>(name.c_str()).isChecked(), option.ByDefault() == 0) << name;
+            EXPECT_EQ(Find<QCheckBox>(name.c_str()).isChecked(), option.byDefault == 0) << name;
             EXPECT_TRUE(ApplyIsEnabled());
         }
         ClickOn("cmdOK");
     });
     for (const ExportOption& option : exportOptions) {
-        if (option.control->kind != FormControlKind::checkBox) continue;
-        EXPECT_EQ(Stored(option.valueName), ProfileValue(option.ByDefault() == 0 ? -1 : 0))
-            << option.valueName;
+        if (option.control.kind != FormControlKind::checkBox) continue;
+        EXPECT_EQ(Stored(option.valueName), ProfileValue(option.byDefault == 0 ? -1 : 0)) << option.valueName;
     }
     EXPECT_THAT(profileStore_.writes, SizeIs(exportOptions.size()));
 }
@@ -366,13 +365,13 @@ TEST_P(FormWindowIn, TheAccessKeyOfATabShowsItsPage) {
 TEST_P(FormWindowIn, TheAccessKeyOfACheckBoxTurnsItOver) {
     ShowWindow([&] {
         for (const ExportOption& option : exportOptions) {
-            if (option.control->kind != FormControlKind::checkBox) continue;
-            Tabs().setCurrentIndex(option.control->page);
-            PressKeyOf(Find<QCheckBox>(std::string(option.control->name).c_str()).text());
+            if (option.control.kind != FormControlKind::checkBox) continue;
+            Tabs().setCurrentIndex(option.control.page);
+            PressKeyOf(Find<QCheckBox>(std::string(option.control.name).c_str()).text());
             // The button is seen to go down and up again first.
             EXPECT_TRUE(QTest::qWaitFor([&] {
-                return IsChecked(option.control->name) == (option.ByDefault() == 0);
-            })) << option.control->name;
+                return IsChecked(option.control.name) == (option.byDefault == 0);
+            })) << option.control.name;
         }
     });
 }

@@ -166,8 +166,8 @@ Facts RuleNames() {
 }
 
 Facts OptionNames() {
-    Facts names{std::string(languageValue), std::string(repositoryPathValue)};
-    for (const ExportOption& option : exportOptions) names.emplace(option.valueName);
+    Facts names;
+    for (const ExportOption& option : storedOptions) names.emplace(option.valueName);
     return names;
 }
 

@@ -34,7 +34,7 @@ std::string OtherValue(std::string_view name, std::string_view stored) {
             return candidate.valueName == name;
         });
     if (option == exportOptions.end()) throw std::invalid_argument("no option " + std::string(name));
-    const int now = stored.empty() ? option->ByDefault() : std::stoi(std::string(stored));
+    const int now = stored.empty() ? option->byDefault : std::stoi(std::string(stored));
     if (option->IsNumber()) return std::to_string(now + 1);
     return now == 0 ? "-1" : "0";
 }
