@@ -369,9 +369,10 @@ TEST_P(FormWindowIn, TheAccessKeyOfACheckBoxTurnsItOver) {
             Tabs().setCurrentIndex(option.control.page);
             PressKeyOf(Find<QCheckBox>(std::string(option.control.name).c_str()).text());
             // The button is seen to go down and up again first.
-            EXPECT_TRUE(QTest::qWaitFor([&] {
+            const auto turned = [&] {
                 return IsChecked(option.control.name) == (option.byDefault == 0);
-            })) << option.control.name;
+            };
+            EXPECT_TRUE(QTest::qWaitFor(turned, patience)) << option.control.name;
         }
     });
 }

@@ -90,7 +90,7 @@ class QtFileDialogTest : private HiddenSession, public testing::Test {
     void Next() {
         QWidget* const window = QApplication::activeModalWidget();
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window, patience));
         const std::function<void()> act = acts_.front();
         acts_.pop_front();
         // Behind this act in the queue: it comes when the act's own window is open or gone.

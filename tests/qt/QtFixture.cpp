@@ -13,7 +13,7 @@ std::optional<RunEnd> FormWindowTest::ShowWindow(const std::function<void()>& ac
     optionsFormView_.use = [&](OptionsFormEvents& form) {
         Soon([&] {
             window_ = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
-            EXPECT_TRUE(QTest::qWaitForWindowActive(window_));
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window_, patience));
             act();
             if (window_ != nullptr && window_->isVisible()) window_->close();
         });

@@ -13,6 +13,10 @@
 
 namespace wxbrg {
 
+/// How long to wait for a window, in milliseconds. Only against one that never comes: below the limit that
+/// ctest has for a test.
+inline constexpr int patience = 240'000;
+
 /// Windows that nobody sees.
 class HiddenSession {
   public:

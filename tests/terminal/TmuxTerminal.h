@@ -32,7 +32,7 @@ class TmuxTerminal {
     std::string Screen() const;
     /// The same with the control sequences of its colours and attributes.
     std::string StyledScreen() const;
-    /// The screen as soon as it shows a text; the last one seen where it does not within a minute.
+    /// The screen as soon as it shows a text; the last one seen where it does not within four minutes.
     std::string ScreenWith(const std::string& text) const;
 
   private:
