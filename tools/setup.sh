@@ -4,7 +4,7 @@
 build_packages=(g++ cmake ninja-build python3 libexpat1-dev libcli11-dev libncurses-dev qt6-base-dev
     qt6-translations-l10n)
 test_packages=(libgtest-dev libgmock-dev desktop-file-utils tmux xvfb xdotool)
-check_packages=(clang-format shellcheck libbenchmark-dev unicode-data)
+check_packages=(clang-format clang-tidy shellcheck libbenchmark-dev unicode-data)
 
 # say TEXT...: a heading on standard output.
 say() { printf '\n== %s\n' "$*"; }
