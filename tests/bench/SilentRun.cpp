@@ -31,15 +31,14 @@ MemoryLanguageLibraries::Texts PlainTexts() {
 
 }  // namespace
 
-SilentRun::SilentRun() : SilentRun(memory_, "out.wpx") {}
+SilentRun::SilentRun() : SilentRun(nullptr, "out.wpx") {}
 
-SilentRun::SilentRun(FileSystem& files, std::string output)
-    : output_(std::move(output)), platform_{profileStore_, languageLibraries_, codePage_,
-                                            clock_,        userLocale_,        files,
-                                            messageBox_,   fileDialog_,        optionsFormView_,
-                                            helpViewer_,   progress_,          "",
-                                            "wxbrg"} {
-    languageLibraries_.Put("wxbrgENU.dll", PlainTexts());
+SilentRun::SilentRun(FileSystem& files, std::string output) : SilentRun(&files, std::move(output)) {}
+
+SilentRun::SilentRun(FileSystem* files, std::string output)
+    : output_(std::move(output)),
+      platform_(memory_.With(files != nullptr ? *files : memory_.fileSystem, memory_.helpViewer)) {
+    memory_.languageLibraries.Put("wxbrgENU.dll", PlainTexts());
 }
 
 SilentRun::~SilentRun() {
@@ -48,7 +47,7 @@ SilentRun::~SilentRun() {
 
 RunReport SilentRun::Export(aris::Automation& automation, std::vector<ARISModel> models,
                             std::size_t stackSize) {
-    script_ = AnswerScript::Parse("options ok\nfile " + output_);
+    memory_.script = AnswerScript::Parse("options ok\nfile " + output_);
     RunRequest request;
     request.selection = ExportSelection{"user", "Demo", "LOCAL", "", english, std::move(models)};
     request.stackSize = stackSize;
@@ -74,7 +73,7 @@ void SilentRun::Begin() {
 }
 
 std::vector<std::string> SilentRun::LogLines() const {
-    std::istringstream log(memory_.Bytes(logInMemory).value_or(""));
+    std::istringstream log(memory_.fileSystem.Bytes(logInMemory).value_or(""));
     std::vector<std::string> lines;
     for (std::string line; std::getline(log, line);) {
         if (line.ends_with('\r')) line.pop_back();

@@ -5,18 +5,8 @@
 #include <vector>
 
 #include "aris/Repository.h"
-#include "platform/posix/IconvCodePage.h"
-#include "platform/scripted/FixedClock.h"
-#include "platform/scripted/MemoryFileSystem.h"
-#include "platform/scripted/MemoryLanguageLibraries.h"
-#include "platform/scripted/MemoryProfileStore.h"
-#include "platform/scripted/NoHelp.h"
-#include "platform/scripted/NoProgress.h"
-#include "platform/scripted/PlainUserLocale.h"
-#include "platform/scripted/ScriptedFileDialog.h"
-#include "platform/scripted/ScriptedMessageBox.h"
-#include "platform/scripted/ScriptedOptionsFormView.h"
 #include "run/RunExport.h"
+#include "tests/fixture/MemoryPlatform.h"
 
 namespace wxbrg::bench {
 
@@ -41,22 +31,14 @@ class SilentRun {
 
     /// The lines of the log, where it lies in memory.
     std::vector<std::string> LogLines() const;
-    const std::vector<ShownBox>& Boxes() const { return messageBox_.Boxes(); }
+    const std::vector<ShownBox>& Boxes() const { return memory_.messageBox.Boxes(); }
 
   private:
-    MemoryFileSystem memory_;
+    /// Writes into `files`, or into memory where there are none.
+    SilentRun(FileSystem* files, std::string output);
+
+    MemoryPlatform memory_{65001, LocalTime{}, ""};
     std::string output_;
-    MemoryProfileStore profileStore_;
-    MemoryLanguageLibraries languageLibraries_;
-    IconvCodePage codePage_{65001};
-    FixedClock clock_{LocalTime{}};
-    PlainUserLocale userLocale_;
-    AnswerScript script_{{}};
-    ScriptedMessageBox messageBox_{script_};
-    ScriptedFileDialog fileDialog_{script_};
-    ScriptedOptionsFormView optionsFormView_{script_};
-    NoHelp helpViewer_;
-    NoProgress progress_;
     Platform platform_;
 };
 

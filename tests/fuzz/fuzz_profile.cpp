@@ -15,20 +15,10 @@
 #include "mapping/ProfileText.h"
 #include "mapping/ProfileTokenizer.h"
 #include "mapping/clsMappingRuleToken.h"
-#include "platform/posix/IconvCodePage.h"
-#include "platform/scripted/AnswerScript.h"
-#include "platform/scripted/FixedClock.h"
-#include "platform/scripted/MemoryFileSystem.h"
-#include "platform/scripted/MemoryLanguageLibraries.h"
-#include "platform/scripted/MemoryProfileStore.h"
-#include "platform/scripted/NoHelp.h"
-#include "platform/scripted/NoProgress.h"
-#include "platform/scripted/PlainUserLocale.h"
-#include "platform/scripted/ScriptedFileDialog.h"
-#include "platform/scripted/ScriptedOptionsFormView.h"
 #include "run/Frame.h"
 #include "run/clsExceptionHandler.h"
 #include "run/clsIOHandler.h"
+#include "tests/fixture/MemoryPlatform.h"
 #include "tests/mapping/PlainProfile.h"
 
 namespace {
@@ -38,18 +28,13 @@ using namespace wxbrg;
 constexpr const char* profileName = "/wxbrg.prf";
 constexpr std::uint32_t utf8CodePage = 65001;
 
-class OkMessageBox : public MessageBox {
-  public:
-    BoxAnswer Show(std::string_view, std::string_view, std::int32_t) override { return BoxAnswer::ok; }
-};
-
 /// A run that has come to its mapping profile.
 class ProfileRun {
   public:
-    ProfileRun(std::string bytes, CodePage& codePage) : codePage_(codePage) {
-        fileSystem_.Put(profileName, std::move(bytes));
+    explicit ProfileRun(std::string bytes) {
+        memory_.fileSystem.Put(profileName, std::move(bytes));
         RenewGlobals();
-        gBlock.gPlatform = &platform_;
+        gBlock.gPlatform = &memory_.platform;
         gBlock.gExceptionHandler = gBlock.gPool.Create<clsExceptionHandler>();
         gBlock.gIOHandler = gBlock.gPool.Create<clsIOHandler>();
     }
@@ -71,31 +56,7 @@ class ProfileRun {
     }
 
   private:
-    MemoryProfileStore profileStore_;
-    MemoryLanguageLibraries languageLibraries_;
-    CodePage& codePage_;
-    FixedClock clock_{LocalTime{}};
-    PlainUserLocale userLocale_;
-    MemoryFileSystem fileSystem_;
-    OkMessageBox messageBox_;
-    AnswerScript script_{{}};
-    ScriptedFileDialog fileDialog_{script_};
-    ScriptedOptionsFormView optionsFormView_{script_};
-    NoHelp helpViewer_;
-    NoProgress progress_;
-    Platform platform_{.profileStore = profileStore_,
-                       .languageLibraries = languageLibraries_,
-                       .codePage = codePage_,
-                       .clock = clock_,
-                       .userLocale = userLocale_,
-                       .fileSystem = fileSystem_,
-                       .messageBox = messageBox_,
-                       .fileDialog = fileDialog_,
-                       .optionsFormView = optionsFormView_,
-                       .helpViewer = helpViewer_,
-                       .progress = progress_,
-                       .programDirectory = "/",
-                       .programName = "wxbrg"};
+    MemoryPlatform memory_{utf8CodePage, LocalTime{}, "/"};
 };
 
 void Require(bool holds, const char* what) {
@@ -179,8 +140,7 @@ void PrintAndReadBack(const std::string& text, char32_t separator) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static IconvCodePage codePage(utf8CodePage);
-    ProfileRun run(std::string(reinterpret_cast<const char*>(data), size), codePage);
+    ProfileRun run(std::string(reinterpret_cast<const char*>(data), size));
     std::string text;
     run.EndOf([&] {
         text = gBlock.gIOHandler->ReadFile(profileName);

@@ -91,9 +91,7 @@ class FormHelp : public FormWindowTest {
 
     /// Shows the form's window with another help than the fixture's.
     void ShowWindowWith(HelpViewer& help, const std::function<void()>& act) {
-        Platform platform{profileStore_, languageLibraries_, codePage_,   clock_,           userLocale_,
-                          fileSystem_,   messageBox_,        fileDialog_, optionsFormView_, help,
-                          progress_,     "/program",         "wxbrg"};
+        Platform platform = memory_.With(fileSystem_, help);
         gBlock.gPlatform = &platform;
         ShowWindow(act);
     }

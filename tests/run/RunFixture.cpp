@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdio>
-#include <utility>
 
 #include "run/clsARIS_Interface.h"
 #include "run/clsExceptionHandler.h"
@@ -108,38 +107,6 @@ testing::Matcher<const ShownBox&> UnknownFailureBox(int number, std::string_view
 
 testing::Matcher<const std::optional<RunEnd>&> EndedRun(RunEnding ending, std::int32_t number) {
     return testing::Optional(AllOf(Field(&RunEnd::ending, ending), Field(&RunEnd::number, number)));
-}
-
-bool RecordingProfileStore::Write(std::string_view key, std::string_view name, const ProfileValue& value) {
-    writes.push_back({std::string(key), std::string(name), value});
-    return !refuses && MemoryProfileStore::Write(key, name, value);
-}
-
-std::unique_ptr<LanguageLibrary> RecordingLanguageLibraries::Load(std::string_view fileName) {
-    asked.emplace_back(fileName);
-    if (failure) throw Failure(*failure);
-    return MemoryLanguageLibraries::Load(fileName);
-}
-
-BoxAnswer ChosenMessageBox::Show(std::string_view title, std::string_view text, std::int32_t buttons) {
-    if (nextFailure) throw Failure(*std::exchange(nextFailure, std::nullopt));
-    const BoxAnswer answer = ScriptedMessageBox::Show(title, text, buttons);
-    const bool cancellable = (buttons & BoxStyle::buttonSet) == BoxStyle::okCancel;
-    return cancellable && cancels ? BoxAnswer::cancel : answer;
-}
-
-std::optional<std::string> RecordingFileDialog::AskSaveName(const FileDialogSettings& settings) {
-    shown.push_back(settings);
-    if (whenShown) whenShown();
-    return ScriptedFileDialog::AskSaveName(settings);
-}
-
-void ChosenOptionsFormView::ShowModal(OptionsFormEvents& form) {
-    ++timesShown;
-    if (use)
-        use(form);
-    else
-        ScriptedOptionsFormView::ShowModal(form);
 }
 
 RunFixture::RunFixture() {

@@ -11,18 +11,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/posix/IconvCodePage.h"
-#include "platform/scripted/FixedClock.h"
-#include "platform/scripted/MemoryFileSystem.h"
-#include "platform/scripted/MemoryLanguageLibraries.h"
-#include "platform/scripted/MemoryProfileStore.h"
-#include "platform/scripted/NoProgress.h"
-#include "platform/scripted/PlainUserLocale.h"
-#include "platform/scripted/ScriptedFileDialog.h"
-#include "platform/scripted/ScriptedMessageBox.h"
-#include "platform/scripted/ScriptedOptionsFormView.h"
 #include "run/Frame.h"
 #include "run/RunExport.h"
+#include "tests/fixture/MemoryPlatform.h"
 
 namespace wxbrg {
 
@@ -52,89 +43,6 @@ testing::Matcher<const ShownBox&> UnknownFailureBox(int number, std::string_view
 /// Matches the way in which `RunFixture::RunIn` ended the run; what ran to its normal end is no match.
 testing::Matcher<const std::optional<RunEnd>&> EndedRun(RunEnding ending, std::int32_t number);
 
-/// A value that was stored, or was to be.
-struct ProfileWrite {
-    std::string key;
-    std::string name;
-    ProfileValue value;
-
-    bool operator==(const ProfileWrite&) const = default;
-};
-
-/// A store that remembers what is written, and can refuse it.
-class RecordingProfileStore : public MemoryProfileStore {
-  public:
-    bool Write(std::string_view key, std::string_view name, const ProfileValue& value) override;
-
-    std::vector<ProfileWrite> writes;
-    bool refuses = false;
-};
-
-/// Libraries in memory that remember what was asked for, and can fail.
-class RecordingLanguageLibraries : public MemoryLanguageLibraries {
-  public:
-    std::unique_ptr<LanguageLibrary> Load(std::string_view fileName) override;
-
-    std::vector<std::string> asked;
-    std::optional<Failure> failure;
-};
-
-/// A locale whose decimal separator and number a test chooses.
-class ChosenUserLocale : public PlainUserLocale {
-  public:
-    char32_t DecimalSeparator() const override { return decimalSeparator; }
-    std::uint32_t Number() const override { return number; }
-
-    char32_t decimalSeparator = U'.';
-    std::uint32_t number = 1033;
-};
-
-/// Scripted boxes whose OK boxes a test can have cancelled, or fail.
-class ChosenMessageBox : public ScriptedMessageBox {
-  public:
-    using ScriptedMessageBox::ScriptedMessageBox;
-    BoxAnswer Show(std::string_view title, std::string_view text, std::int32_t buttons) override;
-
-    bool cancels = false;
-    std::optional<Failure> nextFailure;
-};
-
-/// A scripted file dialog that remembers what it was shown with.
-class RecordingFileDialog : public ScriptedFileDialog {
-  public:
-    using ScriptedFileDialog::ScriptedFileDialog;
-    std::optional<std::string> AskSaveName(const FileDialogSettings& settings) override;
-
-    std::vector<FileDialogSettings> shown;
-    std::function<void()> whenShown;
-};
-
-/// A scripted options form that a test can use by hand instead.
-class ChosenOptionsFormView : public ScriptedOptionsFormView {
-  public:
-    using ScriptedOptionsFormView::ScriptedOptionsFormView;
-    FormFont DefaultFont() const override {
-        ++timesAskedForFont;
-        return font;
-    }
-    void ShowModal(OptionsFormEvents& form) override;
-
-    FormFont font;
-    mutable int timesAskedForFont = 0;
-    int timesShown = 0;
-    std::function<void(OptionsFormEvents&)> use;
-};
-
-/// Remembers the pages that it is asked to show, as "wxbrgENU.hlp#50000".
-class RecordingHelpViewer : public HelpViewer {
-  public:
-    void ShowPage(std::string_view helpFile, std::int32_t number) override {
-        shown.push_back(std::string(helpFile) + "#" + std::to_string(number));
-    }
-
-    std::vector<std::string> shown;
-};
-
 /// A fresh global block on a platform of fakes, with the objects that stand behind the language library: what
 /// a procedure finds when it is called in a run. Texts are those of the library of a test, files are in code
 /// page 1252, boxes with OK alone are answered with it.
@@ -156,21 +64,20 @@ class RunFixture : public testing::Test {
     std::string Bytes(const std::string& name) const;
 
     RunRequest request_;
-    AnswerScript script_{{}};
-    RecordingProfileStore profileStore_;
-    RecordingLanguageLibraries languageLibraries_;
-    IconvCodePage codePage_{1252};
-    FixedClock clock_{LocalTime{2026, 11, 21, 6, 12, 43, 5}};
-    ChosenUserLocale userLocale_;
-    MemoryFileSystem fileSystem_;
-    ChosenMessageBox messageBox_{script_};
-    RecordingFileDialog fileDialog_{script_};
-    ChosenOptionsFormView optionsFormView_{script_};
-    RecordingHelpViewer helpViewer_;
-    NoProgress progress_;
-    Platform platform_{profileStore_, languageLibraries_, codePage_,   clock_,           userLocale_,
-                       fileSystem_,   messageBox_,        fileDialog_, optionsFormView_, helpViewer_,
-                       progress_,     "/program",         "wxbrg"};
+    MemoryPlatform memory_{1252, LocalTime{2026, 11, 21, 6, 12, 43, 5}, "/program"};
+
+    // Its parts, under the names of members.
+    AnswerScript& script_ = memory_.script;
+    RecordingProfileStore& profileStore_ = memory_.profileStore;
+    RecordingLanguageLibraries& languageLibraries_ = memory_.languageLibraries;
+    IconvCodePage& codePage_ = memory_.codePage;
+    ChosenUserLocale& userLocale_ = memory_.userLocale;
+    MemoryFileSystem& fileSystem_ = memory_.fileSystem;
+    ChosenMessageBox& messageBox_ = memory_.messageBox;
+    RecordingFileDialog& fileDialog_ = memory_.fileDialog;
+    ChosenOptionsFormView& optionsFormView_ = memory_.optionsFormView;
+    RecordingHelpViewer& helpViewer_ = memory_.helpViewer;
+    Platform& platform_ = memory_.platform;
 };
 
 }  // namespace wxbrg
