@@ -54,8 +54,8 @@ class ClockContract : public testing::Test {
     Clock& clock_ = Make<Subject>();
 };
 
-using Subjects = testing::Types<SystemClock, FixedClock>;
-TYPED_TEST_SUITE(ClockContract, Subjects);
+using Clocks = testing::Types<SystemClock, FixedClock>;
+TYPED_TEST_SUITE(ClockContract, Clocks);
 
 TYPED_TEST(ClockContract, TheTimeIsOneThatThereIsAndItsWeekdayFits) {
     ExpectRealTime(this->clock_.Now());
