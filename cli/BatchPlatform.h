@@ -16,7 +16,7 @@ struct BatchSettings {
     ProfileStore& profileStore;
     CodePage& codePage;
     Progress& progress;
-    std::ostream& boxes;  ///< where boxes are printed
+    std::ostream& boxes;                        ///< where boxes are printed
     std::string output = {};                    ///< what the file dialog gives
     std::optional<std::string> mappingProfile;  ///< as in `Platform`
 };

@@ -6,7 +6,7 @@
 
 namespace wxbrg {
 
-/// An organization. All texts are printed forms with their quotes; a neighbour's name is here, and the
+/// An organization. All texts are printed forms with their quotes; a neighbour's name is kept here, and the
 /// neighbour itself in its registry.
 class clsORGANIZATION {
   public:

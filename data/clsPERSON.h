@@ -6,7 +6,7 @@
 
 namespace wxbrg {
 
-/// A person. All texts but `OtherSettings` are printed forms with their quotes; a neighbour's name is
+/// A person. All texts but `OtherSettings` are printed forms with their quotes; a neighbour's name is kept
 /// here, and the neighbour itself in its registry.
 class clsPERSON {
   public:

@@ -6,7 +6,7 @@
 
 namespace wxbrg {
 
-/// A role. All texts are printed forms with their quotes; a neighbour's name is here, and the neighbour
+/// A role. All texts are printed forms with their quotes; a neighbour's name is kept here, and the neighbour
 /// itself in its registry.
 class clsROLE {
   public:

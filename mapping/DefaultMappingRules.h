@@ -285,7 +285,7 @@ constexpr bool ChainHolds(const StepRow& step) {
            });
 }
 
-/// The type of object that a rule is about comes before its name.
+/// The type of object that a rule is about is the beginning of its name.
 struct RuleStart {
     std::string_view prefix;
     std::int32_t source;

@@ -100,7 +100,7 @@ class PathWalk {
     }
 
     PathReader& reader_;
-    std::vector<ARISObjDef> between_;  ///< the objects from the paths' start to where the walk stands
+    std::vector<ARISObjDef> between_;  ///< the objects from the paths' start to where the walk is
     std::unordered_set<std::string_view> silentObjects_;
     std::unordered_set<const PathCollection*> silentPaths_;
 };

@@ -14,9 +14,9 @@ namespace wxbrg {
 
 namespace {
 
-/// One search. Done plainly, it goes down every chain again and again, which takes exponential time where
-/// chains part and meet. What a second visit of an object under the same rule can add is nothing but the
-/// failure of nesting too deep, so each visit keeps how deep it went, and a second one only compares.
+/// One search. Without a memory it would go down every chain again and again, which takes exponential time
+/// where chains part and meet. What a second visit of an object under the same rule can add is nothing but
+/// the failure of nesting too deep, so each visit keeps how deep it went, and a second one only compares.
 class RelatedSearch {
   public:
     RelatedSearch(Frame& frame, Collection<ARISObjDef>& result) : frame_(frame), result_(result) {}

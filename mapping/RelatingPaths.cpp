@@ -19,8 +19,8 @@ constexpr std::string_view pathsProcedure = "modMappingRule.Find_Relating_Paths_
 constexpr std::string_view relationProcedure =
     "modMappingRule.ARIS_ObjDef_Is_Related_To_ARIS_ObjDef_Using_Mapping_Rule";
 
-/// One search for all paths to an object. Done plainly, it looks for the ways on from an object again with
-/// each way that leads there; here they are looked for once, and shared.
+/// One search for all paths to an object. Without a memory it would look for the ways on from an object again
+/// with each way that leads there; here they are looked for once, and shared.
 class PathSearch {
   public:
     explicit PathSearch(const ARISObjDef& target) : target_(target) {}

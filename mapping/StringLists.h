@@ -22,7 +22,7 @@ bool ARIS_ObjDefIsMemberOfCollection(const ARISObjDef& item, const Collection<En
     });
 }
 
-/// The items of a list between its delimiters, as they are: empty ones and one behind a last delimiter
+/// The items of a list between its delimiters, unchanged: empty ones and one behind a last delimiter
 /// count. An empty list has none.
 Collection<std::string> ConvertStringListToCollection(std::string_view list, std::string_view delimiter);
 

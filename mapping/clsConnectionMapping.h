@@ -9,7 +9,7 @@ namespace wxbrg {
 /// direction, to objects of another type.
 class clsConnectionMapping {
   public:
-    std::int32_t CnxKind = 0;  ///< 2 incoming, 4 outgoing; any other value fails where the step is taken
+    std::int32_t CnxKind = 0;  ///< a direction of `CxnKind`; any other value fails where the step is taken
     std::int32_t CnxTypeNum = 0;
     std::int32_t SourceObjTypeNum = 0;  ///< type of the object that the step starts from
     std::int32_t TargetObjTypeNum = 0;  ///< type of the object that the step arrives at

@@ -16,7 +16,7 @@
 #include "run/modGlobals.h"
 #include "support/Collection.h"
 
-/// The protocol that all kinds of workflow objects share, in one place: how a batch of a kind is found and
+/// The protocol that all kinds of workflow objects share: how a batch of a kind is found and
 /// filled, how one object is created on demand, and how its properties are filled from ARIS. What differs
 /// from kind to kind (names of procedures, rules and kinds, the gate of an option) comes as data.
 ///

@@ -16,7 +16,7 @@ class clsDATA_CONNECTOR;
 class clsPROCESS;
 
 /// An activity of a process: a process activity, which runs the process of its assigned model, or a program
-/// activity. It is filled in two phases, for half of its properties can only be known once the connectors
+/// activity. It is filled in two phases, for half of its properties are known only once the connectors
 /// exist.
 class clsACTIVITY {
   public:

@@ -26,7 +26,7 @@ class clsWPXWriter {
     void WriteWPXHeader();
     void WriteSectionHeader(std::string_view Title);
     /// The whole file: what a block refers to comes before it, but for references between persons and
-    /// between organizations, which are in UPDATE blocks behind. Ends the log with the note 3110.
+    /// between organizations, which follow in UPDATE blocks. Ends the log with the note 3110.
     void WriteAll();
 
     // Each writes a section and returns how many objects it wrote; a second pass with `Update` counts none.

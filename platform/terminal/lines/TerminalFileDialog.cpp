@@ -49,8 +49,7 @@ std::optional<std::filesystem::path> TerminalFileDialog::FileOf(const std::strin
         terminal_.Tell(name + " is a pattern; please give the name of a file.");
         return std::nullopt;
     }
-    return PathOf(settings.initialDirectory) /
-           PathOf(WithDefaultExtension(name, settings.defaultExtension));
+    return PathOf(settings.initialDirectory) / PathOf(WithDefaultExtension(name, settings.defaultExtension));
 }
 
 bool TerminalFileDialog::Accept(const std::filesystem::path& file, const FileDialogSettings& settings) {
