@@ -29,10 +29,10 @@ class FilesTest : public RunFixture {
         return gBlock.gIOHandler->ReadFile("in.txt");
     }
     /// Runs a body that ends the run with one box for a failure of the run-time.
-    void ExpectUnknownFailure(const std::function<void(Frame&)>& body, int number, std::string_view procedure,
-                              std::string_view description) {
+    void ExpectUnknownFailure(const std::function<void(Frame&)>& body, int number,
+                              std::string_view boxProcedure, std::string_view description) {
         EXPECT_THAT(RunIn("test.P", body), EndedRun(RunEnding::unknownFailure, number));
-        EXPECT_THAT(Boxes(), ElementsAre(UnknownFailureBox(number, procedure, description)));
+        EXPECT_THAT(Boxes(), ElementsAre(UnknownFailureBox(number, boxProcedure, description)));
     }
 };
 
