@@ -1,16 +1,14 @@
 #include "cli/Dispatch.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 
+#include "run/ArisSwitches.h"
 #include "support/Text.h"
 
 namespace wxbrg::cli {
 
 namespace {
-
-constexpr std::array<std::string_view, 6> arisSwitches{"/USR", "/DB", "/SVR", "/REG", "/SEL", "/LOC"};
 
 bool HoldsSwitch(std::string_view upper, std::string_view name) {
     for (std::size_t at = upper.find(name); at != std::string_view::npos; at = upper.find(name, at + 1)) {
@@ -41,7 +39,7 @@ std::string JoinArguments(const std::vector<std::string>& arguments) {
 
 bool HoldsArisSwitch(std::string_view text) {
     const std::string upper = UpperCase(text);
-    return std::any_of(arisSwitches.begin(), arisSwitches.end(), [&](std::string_view name) {
+    return std::any_of(ArisSwitch::all.begin(), ArisSwitch::all.end(), [&](std::string_view name) {
         return HoldsSwitch(upper, name);
     });
 }

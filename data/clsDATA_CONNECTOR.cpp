@@ -126,7 +126,8 @@ void clsDATA_CONNECTOR::SetupProperty_LAYOUT(const std::string& Name) {
 
 void clsDATA_CONNECTOR::SetupProperty_DESCRIPTION() {
     const bool gate = ConnectorKind == DataConnectorKind::activityToActivity && gBlock.gOptUseDescriptionAttr;
-    SetupConnectorDescription("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", *this, gate, 2090);
+    SetupConnectorDescription("clsDATA_CONNECTOR.SetupProperty_DESCRIPTION", *this, gate,
+                              Message::connectorPathsNotKnown);
 }
 
 bool clsDATA_CONNECTOR::IsLoopConnector() const {

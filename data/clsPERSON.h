@@ -16,9 +16,12 @@ class clsPERSON {
     std::string LAST_NAME;
     std::string PHONE;
     std::string SECOND_PHONE;
-    std::string SUBSTITUTE;            ///< one person
-    std::string RELATED_ROLE;          ///< a list of roles; not printed
-    std::string RELATED_ORGANIZATION;  ///< one organization; not printed
+    std::string SUBSTITUTE;  ///< one person
+    /// A list of roles. Not printed: filling it creates the roles, with their notes 3060 and 3090.
+    std::string RELATED_ROLE;
+    /// One organization. Not printed: filling it creates the organization, with the notes 3060, 3090 and
+    /// 3000.
+    std::string RELATED_ORGANIZATION;
     std::string DESCRIPTION;
     std::string OtherSettings;  ///< as read
     bool SetupFinished = false;

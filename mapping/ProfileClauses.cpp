@@ -87,7 +87,7 @@ class ClauseReader : public ProfileParser {
 
     /// The first row of what is due.
     const ProfileRow& Due() const { return profileGrammar::RowsOf(State()).front(); }
-    std::int32_t RunEndsWith() const { return NumberOf(profileGrammar::FailureOf(State()).message); }
+    std::int32_t RunEndsWith() const { return wxbrg::NumberOf(profileGrammar::FailureOf(State()).message); }
 
     /// Whether the token behind this one follows at once, and is no equals sign.
     bool IsGlued(const clsMappingRuleToken& token) const {

@@ -64,7 +64,7 @@ void FindConnectorPaths(Connector& connector, std::string_view rule) {
 /// Before the paths are known: the warning `withoutPaths`.
 template <class Connector>
 void SetupConnectorDescription(std::string_view procedure, Connector& connector, bool gate,
-                               std::int32_t withoutPaths) {
+                               MessageWith<0> withoutPaths) {
     Procedure(procedure, [&](Frame& frame) {
         if (!gate) return;
         if (!connector.ConnectorPathsAvailable)

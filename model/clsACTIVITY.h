@@ -23,7 +23,6 @@ class clsACTIVITY {
     clsACTIVITY();
 
     ARISObjDef ARISObjectDefinition;
-    ARISObjOcc ARISObjectOccurrence;                                  ///< the first one in the model
     ARISModel AssignedModel;                                          ///< empty for a program activity
     std::string ActivityName;                                         ///< printed, with its quotes
     Ref<clsDATA_STRUCTURE> InputContainer;                            ///< a default structure at first
@@ -33,11 +32,13 @@ class clsACTIVITY {
     Collection<Ref<clsDATA_CONNECTOR>> Col_DATA_CONNECTOR_IN;
     Collection<Ref<clsDATA_CONNECTOR>> Col_DATA_CONNECTOR_OUT;
     std::string LAYOUT;
-    std::string DESCRIPTION;     ///< printed, with its quotes
-    std::string DOCUMENTATION;   ///< printed, with its quotes
-    std::string PROCESS;         ///< printed name of the process to run
-    std::string PROGRAM;         ///< printed name of the program
-    std::string SUPPORT_TOOL;    ///< printed names of the support tools; not written
+    std::string DESCRIPTION;    ///< printed, with its quotes
+    std::string DOCUMENTATION;  ///< printed, with its quotes
+    std::string PROCESS;        ///< printed name of the process to run
+    std::string PROGRAM;        ///< printed name of the program
+    /// Printed names of the support tools. Not written: converting them brings the notes 3100 and the warning
+    /// 2050.
+    std::string SUPPORT_TOOL;
     std::string PERSON;          ///< printed names of the persons
     std::string MEMBER_OF_ROLE;  ///< printed names of the roles
     std::string ORGANIZATION;    ///< printed name of the organization

@@ -97,7 +97,7 @@ void clsCONTROL_CONNECTOR::SetupProperties() {
 
 void clsCONTROL_CONNECTOR::SetupProperty_DESCRIPTION() {
     SetupConnectorDescription("clsCONTROL_CONNECTOR.SetupProperty_DESCRIPTION", *this,
-                              gBlock.gOptUseDescriptionAttr, 2080);
+                              gBlock.gOptUseDescriptionAttr, Message::controlPathsNotKnown);
 }
 
 void clsCONTROL_CONNECTOR::SetupProperty_Linking() {

@@ -51,8 +51,6 @@ class clsPROCESS {
     std::int32_t MinYPos = aboveAllPositions;
     std::int32_t X_ContingencyOffset = 0;  ///< smallest position less the margin
     std::int32_t Y_ContingencyOffset = 0;
-    std::int32_t X_WPX_Offset = 0;  ///< reserved: nothing writes or reads it
-    std::int32_t Y_WPX_Offset = 0;
 
     FlowLoops ControlFlow;  ///< the control connectors created so far
     FlowLoops DataFlow;     ///< the data connectors between activities created so far

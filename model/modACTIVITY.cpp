@@ -25,7 +25,6 @@ void AssignModel(clsACTIVITY& activity) {
 void AddActivity(clsPROCESS& process, const ARISObjDef& object, const ARISObjOcc& occurrence) {
     const Ref<clsACTIVITY> activity = gBlock.gPool.Create<clsACTIVITY>();
     activity->ARISObjectDefinition = object;
-    activity->ARISObjectOccurrence = occurrence;
     activity->ARIS_XPos = occurrence->X();
     activity->ARIS_YPos = occurrence->Y();
     AssignModel(*activity);

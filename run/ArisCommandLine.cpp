@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "run/ArisSwitches.h"
 #include "run/Frame.h"
 #include "run/clsARIS_Interface.h"
 #include "run/modGlobals.h"
@@ -69,12 +70,12 @@ void clsARIS_Interface::SaveCommandlineArguments() {
         const auto value = [](std::string_view name) {
             return std::string(Trim(GetCommandLine(name)));
         };
-        sUser = value("/USR");
-        sDatabase = value("/DB");
-        sServer = value("/SVR");
-        sRegistry = value("/REG");
-        sSelection = value("/SEL");
-        gBlock.gLocale = ToInt16(value("/LOC"), DecimalSeparator());
+        sUser = value(ArisSwitch::user);
+        sDatabase = value(ArisSwitch::database);
+        sServer = value(ArisSwitch::server);
+        sRegistry = value(ArisSwitch::registry);
+        sSelection = value(ArisSwitch::selection);
+        gBlock.gLocale = ToInt16(value(ArisSwitch::locale), DecimalSeparator());
     });
 }
 

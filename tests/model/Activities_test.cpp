@@ -66,7 +66,6 @@ TEST_F(ActivitiesTest, AnObjectDrawnTwiceIsOneActivityAtItsFirstPlace) {
     const Ref<clsACTIVITY> activity = process->Col_ACTIVITY.Item(1);
     EXPECT_EQ(activity->ARIS_XPos, 30);
     EXPECT_EQ(activity->ARIS_YPos, 40);
-    EXPECT_EQ(activity->ARISObjectOccurrence, object->OccListInModel(model).Get(0));
 }
 
 TEST_F(ActivitiesTest, ActivitiesAreMadeOnce) {

@@ -40,7 +40,6 @@ TEST_F(ProcessesTest, AProcessBeginsEmptyWithTwoDefaultContainers) {
     EXPECT_EQ(process.MinXPos, 99999999);
     EXPECT_EQ(process.MinYPos, 99999999);
     EXPECT_EQ(process.X_ContingencyOffset, 0);
-    EXPECT_EQ(process.Y_WPX_Offset, 0);
     EXPECT_FALSE(process.CreateActivitiesFinished || process.LayoutConversionFinished ||
                  process.SetupFinished);
 }
