@@ -10,7 +10,7 @@ namespace wxbrg {
 /// A way along chained steps that comes back to where it began.
 struct ChainCircle {
     TextPlace place;                 ///< of the rule name that leads into it
-    std::vector<std::string> rules;  ///< by name; the first one stands at the end again
+    std::vector<std::string> rules;  ///< by name; the first one is at the end again
 };
 
 /// The circles that the chained steps of a profile can make: for each step the shortest one, each circle

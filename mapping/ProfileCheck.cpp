@@ -165,7 +165,7 @@ class RuleCheck {
                        const std::string& what) {
         const auto [first, isNew] = lines.emplace(std::move(entry), place.line);
         if (!isNew)
-            Warn(place, what + " stands in this rule already, in line " + std::to_string(first->second) +
+            Warn(place, what + " is in this rule already, in line " + std::to_string(first->second) +
                             "; take one of the two out");
     }
 

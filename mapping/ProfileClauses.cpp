@@ -151,7 +151,7 @@ class ClauseReader : public ProfileParser {
         clause.doubled = true;
         const std::string warns = guarded ? ". A run warns with 2110 and takes the first one" : "";
         Find(FindingSeverity::error, clause.name.place,
-             RuleName() + " stands in line " + std::to_string(first->second) +
+             RuleName() + " is in line " + std::to_string(first->second) +
                  " already; take one of the two out" + warns,
              guarded ? 0 : FailureKind::duplicateKey);
     }
@@ -182,7 +182,7 @@ class ClauseReader : public ProfileParser {
     const std::vector<clsMappingRuleToken>& tokens_;
     char32_t decimalSeparator_;
     std::size_t next_ = 0;
-    std::map<std::string, std::size_t> lines_;  ///< where each name stands first, by its upper case
+    std::map<std::string, std::size_t> lines_;  ///< the line in which each name is first, by its upper case
     std::vector<ProfileFinding> findings_;
 };
 

@@ -9,7 +9,7 @@ namespace wxbrg {
 
 enum class FindingSeverity {
     error,    ///< it ends a run, brings a message box in it, or makes it do otherwise than the profile says
-    warning,  ///< it looks like a mistake, and a run takes it as it stands
+    warning,  ///< it looks like a mistake, and a run takes it as it is
 };
 
 /// What is wrong or doubtful in a mapping profile.

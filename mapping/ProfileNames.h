@@ -6,7 +6,7 @@
 
 namespace wxbrg {
 
-/// What a rule of a profile tells of.
+/// What a rule of a profile is about.
 enum class RuleSort { object, attribute, connection };
 
 /// The keyword that opens a rule of a sort.

@@ -36,7 +36,7 @@ struct ProfileClause {
     ProfileField attribute;
     std::vector<ProfileStep> steps;
     bool whole = false;     ///< it was read to its END
-    bool doubled = false;   ///< another rule of the name stands in front of it
+    bool doubled = false;   ///< another rule of the name comes before it
     bool misnamed = false;  ///< its name is one that no rule can have
 };
 

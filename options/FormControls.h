@@ -16,9 +16,9 @@ namespace wxbrg {
 struct FormControl {
     std::string_view name;
     FormControlKind kind;
-    std::int32_t page;               ///< the tab it stands on, from 0; a tab's own number; or `noPage`
+    std::int32_t page;               ///< the tab it is on, from 0; a tab's own number; or `noPage`
     std::int32_t place;              ///< from 1: on its page from the top, among the buttons from the left
-    std::string_view frame;          ///< the frame it stands in; empty: in none
+    std::string_view frame;          ///< the frame it is in; empty: in none
     std::int32_t captionNumber;      ///< of the language library; 0: it has no caption
     std::string_view designCaption;  ///< what it says until the language library is asked
     std::int32_t helpNumber;         ///< page of the help; 0: none
@@ -36,7 +36,7 @@ inline constexpr std::int32_t formHelpNumber = 50000;
 /// How many characters the text field takes.
 inline constexpr std::size_t suffixLength = 4;
 
-/// What stands on the form beside the controls of the options.
+/// What is on the form beside the controls of the options.
 // clang-format off
 inline constexpr std::array formFurniture{
     FormControl{"SSTab1", FormControlKind::tab, 0, 0, {}, 50001, "Naming conventions", 50002},
@@ -90,7 +90,7 @@ constexpr auto All() {
 
 }  // namespace form_controls
 
-/// All controls: the tabs, what stands on each page from top to bottom, and the buttons from left to right.
+/// All controls: the tabs, what is on each page from top to bottom, and the buttons from left to right.
 /// That is also the order in which the keyboard goes through them.
 inline constexpr auto formControls = form_controls::All();
 
@@ -104,7 +104,7 @@ inline constexpr std::int32_t lastHelpNumber =
         return one.helpNumber < other.helpNumber;
     }) -> helpNumber;
 
-/// The place in the table of the one control that `wanted` tells; the table's size where there is none.
+/// The place in the table of the one control that `wanted` selects; the table's size where there is none.
 template <class Predicate>
 constexpr std::size_t FindControl(Predicate wanted) {
     return static_cast<std::size_t>(std::find_if(formControls.begin(), formControls.end(), wanted) -

@@ -14,7 +14,8 @@ namespace wxbrg {
 std::string StoredLanguage(const ProfileStore& store);
 
 /// Loads the language library that the stored value "Language" names ("ENU" where none is stored), and sets
-/// the help file of the same language. Returns false, after telling the user, when the library is not there.
+/// the help file of the same language. Returns false, after a message to the user, when the library is not
+/// there.
 bool LoadLocalizedResources();
 
 /// The text of a number; an "Error :" text where the library does not hold it, and the empty text where no
@@ -26,7 +27,7 @@ std::string GetStringFromResourceFile(std::int32_t ID);
 std::string GetNLSString(std::int32_t ID, std::string_view S1 = {}, std::string_view S2 = {},
                          std::string_view S3 = {}, std::string_view S4 = {});
 
-/// The text of a number as it stands.
+/// The text of a number as it is.
 std::string Get_NLS_String_Message(std::int32_t ID);
 
 }  // namespace wxbrg

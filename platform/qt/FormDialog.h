@@ -51,7 +51,7 @@ class FormDialog : public QDialog {
     void Do(const std::function<void()>& act);
     void Refresh();
     void Show(const FormControlRow& row);
-    /// Help on the control that a widget is, or stands in.
+    /// Help on the control that a widget is, or is in.
     void HelpOn(const QObject* widget);
 
     OptionsFormEvents& form_;

@@ -89,13 +89,13 @@ TEST(XmlAutomation, HandsTypesAndProgressOn) {
     RepositoryText content;
     content.root.models = {{.id = "M", .type = "MT_MINE", .name = "x"}};
     folder.Write("orders.aml", AmlOf(content));
-    bool told = false;
+    bool reported = false;
     XmlAutomation automation(folder.Path().string(), folder.Write("types.tsv", "MT\tMT_MINE\t13\tMine\n"),
                              [&](std::uint64_t, std::uint64_t) {
-                                 told = true;
+                                 reported = true;
                              });
     EXPECT_EQ(OpenWith(automation, "orders")->FindModels(1, 13, 1, english, "x", 0).Get(0)->Type(), "Mine");
-    EXPECT_TRUE(told);
+    EXPECT_TRUE(reported);
 }
 
 TEST(CatalogueAutomation, OpensTheCatalogueUnderAnyDatabaseName) {

@@ -194,14 +194,14 @@ TEST(XmlReader, TellsHowFarItHasCome) {
     const TemporaryFolder folder;
     const std::string comment = "<!--" + std::string(3U << 20U, ' ') + "-->";
     const std::string aml = AmlDocument(comment);
-    std::vector<std::uint64_t> told;
+    std::vector<std::uint64_t> reported;
     OpenXmlRepository({folder.Write("demo.aml", aml), {}, [&](std::uint64_t done, std::uint64_t total) {
-                           told.push_back(done);
+                           reported.push_back(done);
                            EXPECT_EQ(total, aml.size());
                        }});
-    ASSERT_GE(told.size(), 2U);
-    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-    EXPECT_EQ(told.back(), aml.size());
+    ASSERT_GE(reported.size(), 2U);
+    EXPECT_TRUE(std::is_sorted(reported.begin(), reported.end()));
+    EXPECT_EQ(reported.back(), aml.size());
 }
 
 }  // namespace

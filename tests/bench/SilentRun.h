@@ -11,7 +11,7 @@
 namespace wxbrg::bench {
 
 /// Runs of the export without a user: the options and rules are the default ones, files lie in memory unless
-/// told otherwise, and the text of each message is "%1$s|%2$s|%3$s|%4$s".
+/// set otherwise, and the text of each message is "%1$s|%2$s|%3$s|%4$s".
 class SilentRun {
   public:
     SilentRun();

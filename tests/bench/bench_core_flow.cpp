@@ -103,7 +103,7 @@ clsPROCESS& EmptyProcess(const Drawing& drawing) {
     return *process;
 }
 
-/// Searches the connectors of a drawing's process anew each time; `find` tells whether all are there.
+/// Searches the connectors of a drawing's process anew each time; `find` says whether all are there.
 template <class Find>
 void FindConnectors(benchmark::State& state, const Drawing& drawing, Find&& find) {
     SilentRun run;

@@ -26,7 +26,7 @@ TEST(Terminal, ALineComesWithoutItsEndAndBlanksAround) {
 TEST(Terminal, ToldTextsHaveTheStreamsOwnLineEnds) {
     std::istringstream in;
     std::ostringstream out;
-    Terminal(in, out).Tell("a\r\nb");
+    Terminal(in, out).Print("a\r\nb");
     EXPECT_EQ(out.str(), "a\nb\n");
 }
 

@@ -105,7 +105,7 @@ TEST_F(LookupCostTest, NoPathIsFollowedIntoDiamondsThatDoNotLeadToTheTarget) {
     });
     ASSERT_EQ(std::distance(paths->begin(), paths->end()), 1);
     EXPECT_FALSE(paths->begin()->tails);
-    // One search behind each of the two sides of the first diamond tells that they lead elsewhere.
+    // One search behind each of the two sides of the first diamond shows that they lead elsewhere.
     EXPECT_LE(questions, 2 * stepsFromObject * (1 + ruleObjects));
 }
 

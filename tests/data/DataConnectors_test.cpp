@@ -239,7 +239,7 @@ class DataFlowLoopsTest : public DataConnectorsTest {
     Ref<FakeObject> c = Function("C");
 };
 
-TEST_F(DataFlowLoopsTest, ARingIsToldOnceForTheConnectorThatClosesIt) {
+TEST_F(DataFlowLoopsTest, ARingIsReportedOnceForTheConnectorThatClosesIt) {
     Ring({a, b, c, a});
     EXPECT_THAT(Find(), ElementsAre("1: A > B", "1: B > C", "1: C > A"));
     EXPECT_THAT(Notes(), ElementsAre("I3080|T22|A|T22|B", "I3080|T22|B|T22|C", "E3140|T22|C|T22|A",
@@ -247,7 +247,7 @@ TEST_F(DataFlowLoopsTest, ARingIsToldOnceForTheConnectorThatClosesIt) {
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
-TEST_F(DataFlowLoopsTest, WithTheOptionOffNothingIsTold) {
+TEST_F(DataFlowLoopsTest, WithTheOptionOffNothingIsReported) {
     gBlock.gOptFindDataFlowLoops = false;
     Ring({a, b, a});
     Find();

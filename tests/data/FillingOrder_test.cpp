@@ -1,4 +1,4 @@
-// The order in which the properties of an object are filled, as the log tells it.
+// The order in which the properties of an object are filled, as the log shows it.
 
 #include <gmock/gmock.h>
 

@@ -119,10 +119,10 @@ void CompareRules(ProfileRun& run, const std::string& text, const ProfileTokens&
     Require(ProfileText(RulesOf(gBlock.gColMappingRule)) == ProfileText(expected.rules),
             "a run has the rules of the model");
     const ProfileClauses clauses = ReadClauses(profile, DecimalSeparator());
-    std::int32_t told = 0;
+    std::int32_t reported = 0;
     for (const ProfileFinding& finding : clauses.findings)
-        if (told == 0) told = finding.endsWith;
-    Require(told == end, "the failure of a run is told");
+        if (reported == 0) reported = finding.endsWith;
+    Require(reported == end, "the failure of a run is reported");
     if (end == 0)
         Require(ProfileText(RulesOf(clauses)) == ProfileText(expected.rules), "the rules are the same");
 }

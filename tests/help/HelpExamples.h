@@ -20,7 +20,7 @@ struct HelpExample {
 std::vector<std::string> LinesOf(std::string_view text);
 
 /// The examples of a help file's text in their order. Throws std::runtime_error for a fenced block without
-/// the line that tells where it is from, and for such a line without a block.
+/// the line that says where it is from, and for such a line without a block.
 std::vector<HelpExample> ExamplesOf(std::string_view text);
 
 /// Whether an export holds what an example shows: its lines, one behind the other, with four blanks for each

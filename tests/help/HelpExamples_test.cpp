@@ -100,7 +100,7 @@ TEST(ExamplesOf, TellsPageSettingAndLines) {
     EXPECT_THAT(examples[0].lines, testing::ElementsAre("  one", "two"));
 }
 
-TEST(ExamplesOf, RefusesABlockThatTellsNotWhereItIsFrom) {
+TEST(ExamplesOf, RefusesABlockThatSaysNotWhereItIsFrom) {
     EXPECT_THROW(ExamplesOf("<!-- page 7 -->\n```\none\n```\n"), std::runtime_error);
     EXPECT_THROW(ExamplesOf("<!-- export a.aml -->\nno block\n"), std::runtime_error);
     EXPECT_THROW(ExamplesOf("<!-- export a.aml -->\n```\nno end\n"), std::runtime_error);

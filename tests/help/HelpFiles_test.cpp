@@ -194,11 +194,12 @@ INSTANTIATE_TEST_SUITE_P(, HelpFile, testing::ValuesIn(languages), [](const auto
 
 TEST(HelpFiles, ShowTheSameExamplesInAllLanguages) {
     const auto examples = [](const HelpLanguage& language) {
-        std::vector<std::string> told;
+        std::vector<std::string> reported;
         const std::filesystem::path folder = WXBRG_PROGRAM_FOLDER;
         for (const HelpExample& example : ExamplesOf(ReadBytes(folder / ("wxbrg" + language.tag + ".hlp"))))
-            told.push_back(std::to_string(example.page) + ' ' + example.repository + ' ' + example.setting);
-        return told;
+            reported.push_back(std::to_string(example.page) + ' ' + example.repository + ' ' +
+                               example.setting);
+        return reported;
     };
     EXPECT_THAT(examples(languages[1]), testing::ContainerEq(examples(languages[0])));
 }

@@ -26,7 +26,7 @@ class Installed : public testing::Test {
     TemporaryFolder prefix_;
 };
 
-/// Width and height as a PNG tells them.
+/// Width and height as a PNG gives them.
 std::pair<unsigned, unsigned> SizeOfPng(const fs::path& file) {
     const std::string bytes = ReadBytes(file);
     if (bytes.size() < 24 || !bytes.starts_with("\x89PNG\r\n"))

@@ -46,7 +46,7 @@ class GeneratorTest(unittest.TestCase):
         return {int(number): text for number, text in rows}
 
     def assert_rejected(self, content, *messages):
-        """Each of the messages is told, in this order and no other one; nothing is written."""
+        """Each of the messages is reported, in this order and no other one; nothing is written."""
         status, errors = self.run_on(content)
         self.assertEqual(errors.splitlines(), ["messages.txt:" + message for message in messages])
         self.assertEqual(status, 1)
@@ -139,11 +139,11 @@ class Rejections(GeneratorTest):
                              "5: the text of 1 in DEU has %2$s, which its number's line does not name")
 
     def test_slips_in_placeholders(self):
-        for slip in ("%5$s", "%0$s", "%12$s", "%s", "%d", "%1s", "%1$S", "%$1s"):
-            with self.subTest(slip):
+        for wrong in ("%5$s", "%0$s", "%12$s", "%s", "%d", "%1s", "%1$S", "%$1s"):
+            with self.subTest(wrong):
                 self.assert_rejected(
-                    LANGUAGES + f"1  x\nENU  a {slip} b\nDEU  a\n",
-                    f"4: the text of 1 in ENU has {slip}, which is none of the placeholders %1$s to %4$s")
+                    LANGUAGES + f"1  x\nENU  a {wrong} b\nDEU  a\n",
+                    f"4: the text of 1 in ENU has {wrong}, which is none of the placeholders %1$s to %4$s")
 
     def test_arguments_named_out_of_order(self):
         for named in ("%2$s a, %1$s b", "%2$s b", "%1$s a, %1$s b", "%1$s a, %3$s c"):

@@ -188,7 +188,7 @@ TEST_F(LookupsTest, OneRuleServesAttributesAndConnections) {
                 ElementsAre("Pay"));
 }
 
-/// A lookup that takes a rule name, and the procedure that an unknown one is told under.
+/// A lookup that takes a rule name, and the procedure under which an unknown one is reported.
 struct RuleLookup {
     std::string_view procedure;
     std::function<void(const ARISObjDef&, std::string_view rule)> ask;

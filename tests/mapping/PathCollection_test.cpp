@@ -1,4 +1,4 @@
-// Paths that share what they have in common, against the same paths told one by one.
+// Paths that share what they have in common, against the same paths listed one by one.
 
 #include "mapping/PathCollection.h"
 

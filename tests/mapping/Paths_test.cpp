@@ -181,7 +181,7 @@ TEST_F(IsRelatedTest, APositiveAnswerLeavesItsNameAndANegativeOneDoesNot) {
     EXPECT_EQ(gBlock.gCurrentProcedure, isRelated);
 }
 
-TEST_F(IsRelatedTest, FailuresBehindAPositiveAnswerAreToldUnderItsName) {
+TEST_F(IsRelatedTest, FailuresBehindAPositiveAnswerAreReportedUnderItsName) {
     Flow({start, end});
     EXPECT_EQ(EndOf([&] {
                   Procedure("modTest.Caller", [&](Frame& frame) {

@@ -36,7 +36,7 @@ Tokens Tokenize(std::string_view text, char32_t decimalSeparator);
 /// What comes of the text of a profile, which is not empty.
 struct Reading {
     RuleTable rules;                        ///< up to the failure
-    std::vector<std::string> doubledNames;  ///< of which the warning 2110 tells
+    std::vector<std::string> doubledNames;  ///< which the warning 2110 reports
     std::int32_t endsWith = 0;              ///< the number of the failure that ends the run, or 0
     std::vector<std::string> arguments;     ///< of that failure
     bool failsInTokenizer = false;

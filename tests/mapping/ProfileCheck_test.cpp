@@ -18,16 +18,16 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-std::string Told(const ProfileFinding& finding) {
+std::string TextOf(const ProfileFinding& finding) {
     return std::to_string(finding.place.line) + ":" + std::to_string(finding.place.column) +
            (finding.severity == FindingSeverity::error ? " error: " : " warning: ") + finding.text;
 }
 
 /// The findings, as "3:14 error: text".
 std::vector<std::string> Findings(std::string_view text) {
-    std::vector<std::string> told;
-    for (const ProfileFinding& finding : CheckProfile(text, U'.')) told.push_back(Told(finding));
-    return told;
+    std::vector<std::string> reported;
+    for (const ProfileFinding& finding : CheckProfile(text, U'.')) reported.push_back(TextOf(finding));
+    return reported;
 }
 
 /// A profile of the built-in rules without those of some names, behind a text of its own.
@@ -59,7 +59,7 @@ TEST(ProfileCheck, AnEmptyFileAndOneOfBlanksAreErrors) {
     EXPECT_THAT(Findings(" \r\n\t\r\n"), ElementsAre(AllOf(StartsWith("1:1 error: "), HasSubstr("no rule"))));
 }
 
-TEST(ProfileCheck, AMistakeIsToldWithWhatWasExpected) {
+TEST(ProfileCheck, AMistakeIsReportedWithWhatWasExpected) {
     EXPECT_THAT(
         Findings(With("RULES", {})),
         ElementsAre("1:1 error: expected OBJECT_MAPPING, ATTRIBUTE_MAPPING or CONNECTION_MAPPING and not "
@@ -89,7 +89,7 @@ TEST(ProfileCheck, BehindAStepTheEndIsAmongWhatIsExpected) {
         ElementsAre(HasSubstr("expected END, SOURCE_OBJECT_TYPE or TARGET_OBJECT_RULE and not \"x\"")));
 }
 
-TEST(ProfileCheck, AnEmptyRuleIsToldAsSuch) {
+TEST(ProfileCheck, AnEmptyRuleIsReportedAsSuch) {
     EXPECT_THAT(
         Findings(With("OBJECT_MAPPING ROLE\nEND", {"ROLE"})),
         ElementsAre("2:1 error: the rule \"ROLE\" is empty; give it OBJECT_TYPE in front of END, or take it "
@@ -100,14 +100,14 @@ TEST(ProfileCheck, AnEmptyRuleIsToldAsSuch) {
                 ElementsAre(HasSubstr("is empty; give it SOURCE_OBJECT_TYPE")));
 }
 
-TEST(ProfileCheck, ARuleThatIsNotClosedIsToldWhereTheNextOneBegins) {
+TEST(ProfileCheck, ARuleThatIsNotClosedIsReportedWhereTheNextOneBegins) {
     EXPECT_THAT(
         Findings(With("OBJECT_MAPPING ROLE OBJECT_TYPE = 78", {"ROLE"})),
         ElementsAre("2:1 error: the rule \"ROLE\" is not closed; put END in front of OBJECT_MAPPING (a run "
                     "ends here with 2130)"));
 }
 
-TEST(ProfileCheck, ARuleCutOffByTheEndOfTheFileIsTold) {
+TEST(ProfileCheck, ARuleCutOffByTheEndOfTheFileIsReported) {
     const std::string text = With("", {"ROLE"}) + "OBJECT_MAPPING ROLE OBJECT_TYPE = 78\n";
     EXPECT_THAT(Findings(text), ElementsAre(AllOf(HasSubstr(":16 error: the rule \"ROLE\" is cut off"))));
     EXPECT_THAT(Findings(With("") + "OBJECT_MAPPING\n"),
@@ -138,7 +138,7 @@ TEST(ProfileCheck, AKeywordThatRunsIntoTheNextWordIsDoubtful) {
                             "\"OBJECT_MAPPING\""));
 }
 
-TEST(ProfileCheck, AMissingRuleThatTheExportAsksForIsToldAtTheEnd) {
+TEST(ProfileCheck, AMissingRuleThatTheExportAsksForIsReportedAtTheEnd) {
     const std::string text = With("", {"ROLE_DESCRIPTION"});
     const std::string end = std::to_string(std::count(text.begin(), text.end(), '\n') + 1);
     EXPECT_THAT(Findings(text),
@@ -165,7 +165,7 @@ TEST(ProfileCheck, ARuleThatNoStepGoesOnToAnyMoreIsDoubtful) {
                 ElementsAre(HasSubstr("nothing asks for the rule \"UNIT_NUM_HAS_DOMAINTYPE\"")));
 }
 
-TEST(ProfileCheck, ARuleOfTheWrongSortIsToldWithTheRightOne) {
+TEST(ProfileCheck, ARuleOfTheWrongSortIsReportedWithTheRightOne) {
     EXPECT_THAT(
         Findings(With("OBJECT_MAPPING Role_Description OBJECT_TYPE = 9 END", {"ROLE_DESCRIPTION"})),
         ElementsAre(
@@ -178,14 +178,14 @@ TEST(ProfileCheck, ARuleOfTheWrongSortIsToldWithTheRightOne) {
         ElementsAre(HasSubstr("has to begin with CONNECTION_MAPPING; a run looks for connections")));
 }
 
-TEST(ProfileCheck, AChainedRuleThatIsMissingIsTold) {
+TEST(ProfileCheck, AChainedRuleThatIsMissingIsReported) {
     EXPECT_THAT(Findings(With("", {"UNIT_NUM_HAS_DOMAINTYPE"})),
                 ElementsAre(AllOf(
                     HasSubstr("error: the rule \"UNIT_NUM_HAS_DOMAINTYPE\", with which this step goes on"),
                     HasSubstr("is missing"), HasSubstr("2100"))));
 }
 
-TEST(ProfileCheck, AChainThatLeadsNowhereIsTold) {
+TEST(ProfileCheck, AChainThatLeadsNowhereIsReported) {
     const std::string rule =
         std::string("CONNECTION_MAPPING ACTIVITY_PERSON\n") + step + "\nTARGET_OBJECT_RULE = ";
     EXPECT_THAT(
@@ -196,7 +196,7 @@ TEST(ProfileCheck, AChainThatLeadsNowhereIsTold) {
         ElementsAre(AllOf(StartsWith("3:22 warning: "), HasSubstr("no step from objects of the type 46"))));
 }
 
-TEST(ProfileCheck, StepsThatCanTurnInACircleAreToldWithTheCircle) {
+TEST(ProfileCheck, StepsThatCanTurnInACircleAreReportedWithTheCircle) {
     const std::string text = With(
         "CONNECTION_MAPPING PERSON_SUBSTITUTE\n"
         "SOURCE_OBJECT_TYPE = 46 TARGET_OBJECT_TYPE = 43 CONNECTION_KIND = 4 CONNECTION_TYPE = 6\n"
@@ -238,7 +238,7 @@ TEST(ProfileCheck, OtherConnectionsInTheBuiltInCirclesOfControlFlowAreNoMatter) 
     EXPECT_THAT(Findings(text), IsEmpty());
 }
 
-TEST(ProfileCheck, ADirectionOtherThan2And4IsTold) {
+TEST(ProfileCheck, ADirectionOtherThan2And4IsReported) {
     EXPECT_THAT(
         Findings(With("CONNECTION_MAPPING ACTIVITY_PERSON SOURCE_OBJECT_TYPE = 22 TARGET_OBJECT_TYPE = 46\n"
                       "CONNECTION_KIND = 3 CONNECTION_TYPE = 65 END",
@@ -246,7 +246,7 @@ TEST(ProfileCheck, ADirectionOtherThan2And4IsTold) {
         ElementsAre(AllOf(StartsWith("2:19 error: the direction 3 does not exist"), HasSubstr("2030"))));
 }
 
-TEST(ProfileCheck, ANumberOutsideItsRangeIsTold) {
+TEST(ProfileCheck, ANumberOutsideItsRangeIsReported) {
     EXPECT_THAT(
         Findings(With("OBJECT_MAPPING ROLE OBJECT_TYPE = 2147483648 END", {"ROLE"})),
         ElementsAre(AllOf(StartsWith("1:35 error: 2147483648 is outside"), HasSubstr("ends here with 6"))));
@@ -274,12 +274,12 @@ TEST(ProfileCheck, ANumberThatIsReadAsAnotherIsDoubtful) {
     EXPECT_THAT(Findings(With("OBJECT_MAPPING ROLE OBJECT_TYPE = +78 END", {"ROLE"})), IsEmpty());
 }
 
-TEST(ProfileCheck, ASecondRuleOfANameIsTold) {
+TEST(ProfileCheck, ASecondRuleOfANameIsReported) {
     const std::string twice =
         "OBJECT_MAPPING ROLE OBJECT_TYPE = 78 END\nOBJECT_MAPPING role OBJECT_TYPE = 1 END";
     EXPECT_THAT(
         Findings(With(twice, {"ROLE"})),
-        ElementsAre("2:16 error: the rule \"role\" stands in line 1 already; take one of the two out. A run "
+        ElementsAre("2:16 error: the rule \"role\" is in line 1 already; take one of the two out. A run "
                     "warns with 2110 and takes the first one"));
     const std::string attribute = "ATTRIBUTE_MAPPING ROLE_DESCRIPTION ATTRIBUTE_TYPE = 9 END\n";
     EXPECT_THAT(Findings(With(attribute + attribute, {"ROLE_DESCRIPTION"})),
@@ -289,16 +289,15 @@ TEST(ProfileCheck, ASecondRuleOfANameIsTold) {
 TEST(ProfileCheck, ATypeOrStepThatStandsTwiceInARuleIsDoubtful) {
     EXPECT_THAT(
         Findings(With("OBJECT_MAPPING ROLE\nOBJECT_TYPE = 78\nOBJECT_TYPE = 78\nEND", {"ROLE"})),
-        ElementsAre(
-            "3:15 warning: the type 78 stands in this rule already, in line 2; take one of the two out"));
+        ElementsAre("3:15 warning: the type 78 is in this rule already, in line 2; take one of the two out"));
     EXPECT_THAT(
         Findings(With(std::string("CONNECTION_MAPPING ACTIVITY_PERSON\n") + step + "\n" + step + "\nEND",
                       {"ACTIVITY_PERSON"})),
         ElementsAre(
-            "3:22 warning: the same step stands in this rule already, in line 2; take one of the two out"));
+            "3:22 warning: the same step is in this rule already, in line 2; take one of the two out"));
 }
 
-TEST(ProfileCheck, ASeparatorTooFarAwayIsTold) {
+TEST(ProfileCheck, ASeparatorTooFarAwayIsReported) {
     const std::string text =
         With("OBJECT_MAPPING ROLE OBJECT_TYPE = 78 END" + std::string(33000, '\n'), {"ROLE"}) + "\t\n";
     EXPECT_THAT(Findings(text), ElementsAre(AllOf(StartsWith("1:16 error: of blanks, tabs, line ends"),

@@ -57,11 +57,11 @@ class ProfileModelTest : public ProfileTest {
     void ExpectTheCheck(const plain::Reading& expected, const std::string& text) {
         const char32_t separator = userLocale_.DecimalSeparator();
         const ProfileClauses clauses = ReadClauses(TokenizeProfile(text, separator), separator);
-        const auto told =
+        const auto reported =
             std::find_if(clauses.findings.begin(), clauses.findings.end(), [](const ProfileFinding& finding) {
                 return finding.endsWith != 0;
             });
-        EXPECT_EQ(told == clauses.findings.end() ? 0 : told->endsWith, expected.endsWith)
+        EXPECT_EQ(reported == clauses.findings.end() ? 0 : reported->endsWith, expected.endsWith)
             << testing::PrintToString(text.substr(0, 3000));
         if (expected.endsWith == 0) {
             EXPECT_EQ(Whole(RulesOf(clauses)), Whole(expected.rules)) << text;

@@ -29,7 +29,7 @@ TEST(ProfileDiff, CaseAndOrderOfRulesDoNotCount) {
               "Rules: 0 changed, 0 missing, 0 added, 2 the same\n");
 }
 
-TEST(ProfileDiff, AddedMissingAndChangedRulesAreToldWithTheirEntries) {
+TEST(ProfileDiff, AddedMissingAndChangedRulesAreReportedWithTheirEntries) {
     EXPECT_EQ(Diff("OBJECT_MAPPING A OBJECT_TYPE = 1 END ATTRIBUTE_MAPPING B ATTRIBUTE_TYPE = 2 END\n"
                    "OBJECT_MAPPING C OBJECT_TYPE = 3 END\n",
                    "OBJECT_MAPPING D OBJECT_TYPE = 4 OBJECT_TYPE = 5 END\n"
@@ -45,7 +45,7 @@ TEST(ProfileDiff, AddedMissingAndChangedRulesAreToldWithTheirEntries) {
               "Rules: 1 changed, 1 missing, 1 added, 1 the same\n");
 }
 
-TEST(ProfileDiff, OfAChangedRuleOnlyTheMiddleThatDiffersIsTold) {
+TEST(ProfileDiff, OfAChangedRuleOnlyTheMiddleThatDiffersIsReported) {
     EXPECT_EQ(Diff("OBJECT_MAPPING A OBJECT_TYPE = 1 OBJECT_TYPE = 2 OBJECT_TYPE = 3 END\n",
                    "OBJECT_MAPPING A OBJECT_TYPE = 1 OBJECT_TYPE = 4 OBJECT_TYPE = 3 END\n"),
               "A: changed\n"
@@ -54,7 +54,7 @@ TEST(ProfileDiff, OfAChangedRuleOnlyTheMiddleThatDiffersIsTold) {
               "Rules: 1 changed, 0 missing, 0 added, 0 the same\n");
 }
 
-TEST(ProfileDiff, AnEntryMoreOrLessIsTold) {
+TEST(ProfileDiff, AnEntryMoreOrLessIsReported) {
     const std::string_view one = "OBJECT_MAPPING A OBJECT_TYPE = 1 END\n";
     const std::string_view two = "OBJECT_MAPPING A OBJECT_TYPE = 1 OBJECT_TYPE = 1 END\n";
     const std::string changed = "Rules: 1 changed, 0 missing, 0 added, 0 the same\n";

@@ -41,7 +41,7 @@ TEST_F(ProfileFileTest, WhereThereIsNoneThereIsNoText) {
     EXPECT_EQ(file.text, "");
 }
 
-TEST_F(ProfileFileTest, OneThatCannotBeReadIsTold) {
+TEST_F(ProfileFileTest, OneThatCannotBeReadIsReported) {
     fileSystem_.Put(profileName, "text");
     fileSystem_.MakeFail(profileName, MemoryFileSystem::Step::read, FailureKind::fileAccess);
     EXPECT_THAT(

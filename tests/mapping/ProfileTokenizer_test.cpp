@@ -161,7 +161,7 @@ TEST(ProfilePlaces, TokensTellWhetherTheyFollowEachOtherAtOnce) {
     EXPECT_LT(profile.tokens[2].end, profile.tokens[3].begin);
 }
 
-TEST(ProfilePlaces, AWordTooFarFromASeparatorIsTold) {
+TEST(ProfilePlaces, AWordTooFarFromASeparatorIsReported) {
     EXPECT_EQ(TokenizeProfile(std::string(32766, 'x') + "\n", U'.').overflow, std::nullopt);
     EXPECT_EQ(TokenizeProfile("END\n  " + std::string(32767, 'x') + "\n", U'.').overflow, (TextPlace{2, 3}));
 }

@@ -25,7 +25,7 @@ struct Outcome {
     }
 };
 
-/// The search as told plainly: down every chain, again and again.
+/// The search in its plain form: down every chain, again and again.
 class PlainSearch {
   public:
     explicit PlainSearch(const ARISObjDef& item, std::string_view rule) { Visit(item, rule); }

@@ -1,4 +1,4 @@
-// Paths that share their chains against the search that tells each path anew.
+// Paths that share their chains against the search that lists each path anew.
 
 #include <gmock/gmock.h>
 
@@ -14,7 +14,7 @@
 namespace wxbrg::test {
 namespace {
 
-/// A path told in full: its two ends and the objects between.
+/// A path written in full: its two ends and the objects between.
 using Objects = std::vector<ARISObjDef>;
 using Paths = std::vector<Objects>;
 
@@ -45,7 +45,7 @@ Paths PlainConcatenation(const Paths& first, const Paths& second) {
     });
 }
 
-/// The search told plainly: the ways on from an object are looked for with each way that leads there.
+/// The search in its plain form: the ways on from an object are looked for with each way that leads there.
 Paths PlainSearch(const Paths& prefix, const ARISObjDef& from, const ARISObjDef& to, std::string_view rule) {
     return Procedure("modMappingRule.Find_Relating_Paths_Using_Mapping_Rule", [&](Frame& frame) {
         if (from->OccList().Count() == 0 || to->OccList().Count() == 0) return Paths();

@@ -1,4 +1,4 @@
-// What control connectors take from their paths, against the paths told one by one.
+// What control connectors take from their paths, against the paths listed one by one.
 
 #include <gmock/gmock.h>
 

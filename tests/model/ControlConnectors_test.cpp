@@ -1,4 +1,4 @@
-// Which control connectors a process has, and which of them are told of as loops.
+// Which control connectors a process has, and which of them are reported as loops.
 
 #include <gmock/gmock.h>
 
@@ -148,7 +148,7 @@ TEST_F(ControlFlowLoopsTest, AChainIsNoLoop) {
     EXPECT_THAT(Notes(3130), IsEmpty());
 }
 
-TEST_F(ControlFlowLoopsTest, OfTwoOppositeConnectorsTheSecondIsToldOf) {
+TEST_F(ControlFlowLoopsTest, OfTwoOppositeConnectorsTheSecondIsReportedOf) {
     Flow({a, b});
     Flow({b, a});
     EXPECT_THAT(Find(), ElementsAre("A > B", "B > A"));
@@ -156,19 +156,19 @@ TEST_F(ControlFlowLoopsTest, OfTwoOppositeConnectorsTheSecondIsToldOf) {
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
-TEST_F(ControlFlowLoopsTest, OfARingTheConnectorThatClosesItIsToldOf) {
+TEST_F(ControlFlowLoopsTest, OfARingTheConnectorThatClosesItIsReportedOf) {
     Flow({a, b, c, a});
     Find();
     EXPECT_THAT(Notes(3130), ElementsAre("E3130|T22|C|T22|A"));
 }
 
-TEST_F(ControlFlowLoopsTest, ARingBehindAChainIsToldOfOnce) {
+TEST_F(ControlFlowLoopsTest, ARingBehindAChainIsReportedOfOnce) {
     Flow({a, b, c, b});
     Find();
     EXPECT_THAT(Notes(3130), ElementsAre("E3130|T22|C|T22|B"));
 }
 
-TEST_F(ControlFlowLoopsTest, AConnectorThatClosesTwoRingsIsToldOfOnce) {
+TEST_F(ControlFlowLoopsTest, AConnectorThatClosesTwoRingsIsReportedOfOnce) {
     Flow({a, b, c});
     Flow({a, c});
     Flow({c, a});
@@ -183,7 +183,7 @@ TEST_F(ControlFlowLoopsTest, AConnectorToItselfIsNoLoopAndNoWalkTakesIt) {
     EXPECT_THAT(Notes(3130), IsEmpty());
 }
 
-TEST_F(ControlFlowLoopsTest, WithTheOptionOffNothingIsToldOf) {
+TEST_F(ControlFlowLoopsTest, WithTheOptionOffNothingIsReportedOf) {
     gBlock.gOptFindControlFlowLoops = false;
     Flow({a, b, a});
     Find();

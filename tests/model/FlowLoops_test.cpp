@@ -51,7 +51,7 @@ struct PlainConnector {
     ARISObjDef to;
 };
 
-/// The test told plainly: a walk by recursion over all connectors.
+/// The test in its plain form: a walk by recursion over all connectors.
 class PlainWalk {
   public:
     PlainWalk(const std::vector<PlainConnector>& connectors, const PlainConnector& start)

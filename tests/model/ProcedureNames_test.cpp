@@ -1,4 +1,4 @@
-// The names under which the procedures of this room are told of.
+// The names under which the procedures of this room are reported.
 
 #include <gmock/gmock.h>
 

@@ -65,7 +65,7 @@ TEST_F(LoadLanguageTest, AStoredNumberIsALanguageLikeItsDigits) {
     EXPECT_EQ(GetStringFromResourceFile(1020), "seven");
 }
 
-TEST_F(LoadLanguageTest, AMissingLibraryIsToldWithItsNameAndThereAreNoTexts) {
+TEST_F(LoadLanguageTest, AMissingLibraryIsReportedWithItsNameAndThereAreNoTexts) {
     Store(ProfileScope::user, std::string("FRA"));
     EXPECT_FALSE(LoadLocalizedResources());
     EXPECT_THAT(Boxes(),

@@ -149,7 +149,7 @@ TEST_F(OptionsFormTest, AClickOnTheSelectedOptionButtonMakesTheFormDirty) {
     });
 }
 
-TEST_F(OptionsFormTest, AClickOnAnythingElseIsTold) {
+TEST_F(OptionsFormTest, AClickOnAnythingElseIsReported) {
     Show([&] {
         EXPECT_FALSE(form_.Click("cbNothing"));
         EXPECT_FALSE(form_.Click("efNumSuffix"));

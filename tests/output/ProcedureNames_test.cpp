@@ -1,4 +1,4 @@
-// The names under which the procedures of the writer are told of.
+// The names under which the procedures of the writer are reported.
 
 #include <gmock/gmock.h>
 

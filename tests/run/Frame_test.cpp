@@ -309,11 +309,11 @@ TEST_F(FrameTest, AMistakeOfTheProgramPassesThroughFramesAndStepsWithoutABox) {
     const auto run = [] {
         Procedure("test.P", [](Frame& frame) {
             frame.Step([] {
-                throw std::logic_error("slip");
+                throw std::logic_error("bug");
             });
         });
     };
-    EXPECT_THAT(run, testing::ThrowsMessage<std::logic_error>("slip"));
+    EXPECT_THAT(run, testing::ThrowsMessage<std::logic_error>("bug"));
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 

@@ -100,10 +100,10 @@ TEST_F(RunEndingsTest, AFailureBeforeFailuresCanBeHandledIsAnErrorThatSaysWhatAn
 }
 
 TEST_F(RunEndingsTest, AMistakeOfTheProgramIsAnErrorInItsOwnWords) {
-    EXPECT_CALL(automation_, CreateObject).WillOnce(Throw(std::logic_error("slip")));
+    EXPECT_CALL(automation_, CreateObject).WillOnce(Throw(std::logic_error("bug")));
     const RunReport report = Run();
     EXPECT_EQ(report.ending, RunEnding::error);
-    EXPECT_EQ(report.error, "slip");
+    EXPECT_EQ(report.error, "bug");
     EXPECT_EQ(report.procedure, retrieveProcedure);
     EXPECT_THAT(Boxes(), IsEmpty());
 }

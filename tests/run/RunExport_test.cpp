@@ -1,4 +1,4 @@
-// Whole runs over a small export: the order of things, and what there is to tell of them.
+// Whole runs over a small export: the order of things, and their reports.
 
 #include "run/RunExport.h"
 

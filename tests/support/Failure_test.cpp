@@ -44,7 +44,7 @@ TEST(Failure, TakesADescriptionOfItsOwn) {
     EXPECT_EQ(failure.Description, "The name 'Ä' is too long.");
 }
 
-TEST(Failure, IsAnExceptionThatTellsItsDescription) {
+TEST(Failure, IsAnExceptionThatSaysItsDescription) {
     try {
         throw Failure(FailureKind::diskFull, "/mnt/out.log");
     } catch (const std::exception& exception) {

@@ -5,7 +5,7 @@
 namespace wxbrg {
 
 /// Wakes whoever waits for input when the terminal's window gets another size. The signal may reach any
-/// thread, so that it cannot be counted on to interrupt a read; it writes into a pipe instead. One stands at
+/// thread, so that it cannot be counted on to interrupt a read; it writes into a pipe instead. One is at
 /// a time; with its end the handler of before comes back.
 class ResizeSignal {
   public:

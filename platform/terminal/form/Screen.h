@@ -60,7 +60,7 @@ enum class KeyKind {
     enter,
     escape,
     backspace,
-    erase,  ///< the key that deletes what the cursor stands on
+    erase,  ///< the key that deletes what the cursor is on
     help,
     resize,  ///< no key: the screen has another size, or is to be drawn anew
     endOfInput,

@@ -10,7 +10,7 @@ namespace wxbrg {
 enum class FormAct { none, beep, ok, cancel, apply, help, helpOnFocus };
 
 /// The keyboard of the options form on a screen: which page is shown, which control has the keyboard, where
-/// the cursor stands in the text field, and what a key does there. Clicks and typed text go to the form at
+/// the cursor is in the text field, and what a key does there. Clicks and typed text go to the form at
 /// once; what may show something else is left to the caller.
 class ScreenForm {
   public:

@@ -131,7 +131,7 @@ void DrawButton(ScreenPicture& picture, ScreenPoint at, const FormControlRow& ro
     PutCaption(picture, {at.row, at.column + 2}, ToFormCaption(row.caption), style);
 }
 
-/// The first button stands at the left end, the others at the right.
+/// The first button is at the left end, the others at the right.
 void DrawButtons(ScreenPicture& picture, const FormPlan& plan, const ScreenFormState& state) {
     const std::vector<const FormControlRow*> buttons = RowsOf(state.rows, FormControlKind::button);
     ScreenPoint at{plan.ButtonRule() + 1, plan.left + plan.width - 2};

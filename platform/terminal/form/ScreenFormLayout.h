@@ -24,11 +24,11 @@ struct ScreenFormState {
 bool ScreenFormFits(const std::vector<FormControlRow>& rows, ScreenSize size);
 
 /// The form as a dialog in the middle of the screen: the tabs as a list of pages at its left, the page, the
-/// buttons below, and at the bottom of the screen the keys. The cursor stands on the control that has the
+/// buttons below, and at the bottom of the screen the keys. The cursor is on the control that has the
 /// keyboard. The form has to fit.
 ScreenPicture DrawScreenForm(const ScreenFormState& state, ScreenSize size);
 
-/// What stands in the form's place while it does not fit.
+/// What is in the form's place while it does not fit.
 ScreenPicture DrawTooSmall(ScreenSize size);
 
 }  // namespace wxbrg

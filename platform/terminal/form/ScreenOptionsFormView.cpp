@@ -56,7 +56,7 @@ void ScreenOptionsFormView::Obey(FormAct act, ScreenForm& keyboard, Screen& scre
                     form.Help();
                 else
                     form.HelpOn(keyboard.State().focus);
-                terminal_.Tell("");
+                terminal_.Print("");
                 terminal_.Ask("Enter: back to the options ");
             });
     }

@@ -3,7 +3,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-// The names of <term.h> are macros, so that it comes last, and nothing else stands in this file.
+// The names of <term.h> are macros, so that it comes last, and nothing else is in this file.
 #include <curses.h>
 #include <term.h>
 

@@ -7,7 +7,7 @@
 
 namespace wxbrg {
 
-void Terminal::Tell(std::string_view text) {
+void Terminal::Print(std::string_view text) {
     out_ << Replace(text, "\r\n", "\n") << '\n';
 }
 
@@ -29,7 +29,7 @@ std::optional<bool> Terminal::AskYesOrNo(std::string_view question) {
         const std::string folded = UpperCase(*answer);
         if (folded == "Y" || folded == "YES") return true;
         if (folded == "N" || folded == "NO") return false;
-        Tell("Please answer y or n.");
+        Print("Please answer y or n.");
     }
 }
 

@@ -14,7 +14,7 @@ class Terminal {
     Terminal(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
 
     /// Prints a text and a line end; CR LF inside it becomes the stream's own line end.
-    void Tell(std::string_view text);
+    void Print(std::string_view text);
 
     /// Prints a prompt and reads the line behind it, without its end and without blanks around it. Nothing
     /// when the input has ended.

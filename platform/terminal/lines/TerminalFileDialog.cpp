@@ -25,8 +25,8 @@ std::string PromptOf(const FileDialogSettings& settings, const std::string& prop
 std::optional<std::string> TerminalFileDialog::AskSaveName(const FileDialogSettings& settings) {
     if (inputHasEnded_) throw std::runtime_error("the input ended before a file was named");
     const std::string proposed = IsPattern(settings.fileName) ? std::string() : settings.fileName;
-    terminal_.Tell("");
-    if (!settings.initialDirectory.empty()) terminal_.Tell("Folder: " + settings.initialDirectory);
+    terminal_.Print("");
+    if (!settings.initialDirectory.empty()) terminal_.Print("Folder: " + settings.initialDirectory);
     for (;;) {
         const std::optional<std::string> answer = terminal_.Ask(PromptOf(settings, proposed));
         inputHasEnded_ = !answer;
@@ -46,7 +46,7 @@ std::optional<std::filesystem::path> TerminalFileDialog::FileOf(const std::strin
                                                                 const FileDialogSettings& settings) {
     if (name.empty()) return std::nullopt;
     if (IsPattern(name)) {
-        terminal_.Tell(name + " is a pattern; please give the name of a file.");
+        terminal_.Print(name + " is a pattern; please give the name of a file.");
         return std::nullopt;
     }
     return PathOf(settings.initialDirectory) / PathOf(WithDefaultExtension(name, settings.defaultExtension));
@@ -55,12 +55,12 @@ std::optional<std::filesystem::path> TerminalFileDialog::FileOf(const std::strin
 bool TerminalFileDialog::Accept(const std::filesystem::path& file, const FileDialogSettings& settings) {
     std::error_code error;
     if (std::filesystem::is_directory(file, error)) {
-        terminal_.Tell(TextOf(file) + " is a folder; please give the name of a file.");
+        terminal_.Print(TextOf(file) + " is a folder; please give the name of a file.");
         return false;
     }
     const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
     if (settings.Has(FileDialogFlag::pathMustExist) && !std::filesystem::is_directory(folder, error)) {
-        terminal_.Tell("There is no folder " + TextOf(folder) + "; please check the name.");
+        terminal_.Print("There is no folder " + TextOf(folder) + "; please check the name.");
         return false;
     }
     if (std::filesystem::exists(file, error)) return AcceptExisting(file, settings);
@@ -71,7 +71,7 @@ bool TerminalFileDialog::Accept(const std::filesystem::path& file, const FileDia
 bool TerminalFileDialog::AcceptExisting(const std::filesystem::path& file,
                                         const FileDialogSettings& settings) {
     if (settings.Has(FileDialogFlag::noReadOnlyReturn) && !IsWritable(file)) {
-        terminal_.Tell(TextOf(file) + " cannot be written; please choose another name.");
+        terminal_.Print(TextOf(file) + " cannot be written; please choose another name.");
         return false;
     }
     return !settings.Has(FileDialogFlag::overwritePrompt) ||

@@ -22,7 +22,7 @@ class TerminalFileDialog : public FileDialog {
   private:
     /// The file that a name stands for. Nothing for an empty name and, with a word to the user, a pattern.
     std::optional<std::filesystem::path> FileOf(const std::string& name, const FileDialogSettings& settings);
-    /// Whether the file may be taken, by the flags and the user's answers; tells why not.
+    /// Whether the file may be taken, by the flags and the user's answers; says why not.
     bool Accept(const std::filesystem::path& file, const FileDialogSettings& settings);
     /// Whether an existing file may be taken.
     bool AcceptExisting(const std::filesystem::path& file, const FileDialogSettings& settings);

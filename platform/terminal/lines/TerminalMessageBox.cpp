@@ -5,9 +5,9 @@
 namespace wxbrg {
 
 BoxAnswer TerminalMessageBox::Show(std::string_view title, std::string_view text, std::int32_t buttons) {
-    terminal_.Tell("");
-    terminal_.Tell("--- " + std::string(title));
-    terminal_.Tell(text);
+    terminal_.Print("");
+    terminal_.Print("--- " + std::string(title));
+    terminal_.Print(text);
     switch (buttons & BoxStyle::buttonSet) {
         case BoxStyle::yesNo:
             return terminal_.AskYesOrNo("Yes or no?").value_or(true) ? BoxAnswer::yes : BoxAnswer::no;

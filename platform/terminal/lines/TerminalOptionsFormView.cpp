@@ -49,7 +49,7 @@ const FormControlRow* RowOf(const std::vector<const FormControlRow*>& rows, std:
     return rows[number - 1];
 }
 
-/// Whether a label stands in front of a text field, which has no caption of its own.
+/// Whether a label comes before a text field, which has no caption of its own.
 bool NamesField(const FormControlRow& label, const FormControlRow& field) {
     return label.kind == FormControlKind::label && field.kind == FormControlKind::textField &&
            field.page == label.page && field.caption.empty();
@@ -81,17 +81,17 @@ void TerminalOptionsFormView::ShowModal(OptionsFormEvents& form) {
 }
 
 void TerminalOptionsFormView::List(const OptionsFormEvents& form) {
-    terminal_.Tell("");
-    terminal_.Tell(PlainCaption(form.Caption()));
+    terminal_.Print("");
+    terminal_.Print(PlainCaption(form.Caption()));
     const Rows rows = form.Rows();
     for (const FormControlRow& row : rows)
         if (row.kind == FormControlKind::tab) ListPage(rows, row);
-    TellWhetherStored(form);
+    ShowWhetherStored(form);
 }
 
 void TerminalOptionsFormView::ListPage(const Rows& rows, const FormControlRow& tab) {
-    terminal_.Tell("");
-    terminal_.Tell(PlainCaption(tab.caption));
+    terminal_.Print("");
+    terminal_.Print(PlainCaption(tab.caption));
     std::size_t number = 0;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const FormControlRow& row = rows[i];
@@ -99,9 +99,9 @@ void TerminalOptionsFormView::ListPage(const Rows& rows, const FormControlRow& t
         if (row.page != tab.page || row.kind == FormControlKind::tab) continue;
         if (IsChangeable(row)) {
             const bool named = i > 0 && NamesField(rows[i - 1], row);
-            terminal_.Tell(LineOf(number, row, PlainCaption(named ? rows[i - 1].caption : row.caption)));
+            terminal_.Print(LineOf(number, row, PlainCaption(named ? rows[i - 1].caption : row.caption)));
         } else if (i + 1 == rows.size() || !NamesField(row, rows[i + 1])) {
-            terminal_.Tell("  " + PlainCaption(row.caption));
+            terminal_.Print("  " + PlainCaption(row.caption));
         }
     }
 }
@@ -110,11 +110,11 @@ void TerminalOptionsFormView::ListAround(const FormControlRow& changed, const Op
     const Rows rows = form.Rows();
     for (const FormControlRow& row : rows)
         if (row.kind == FormControlKind::tab && row.page == changed.page) ListPage(rows, row);
-    TellWhetherStored(form);
+    ShowWhetherStored(form);
 }
 
-void TerminalOptionsFormView::TellWhetherStored(const OptionsFormEvents& form) {
-    if (form.IsDirty()) terminal_.Tell("Changes are not stored yet.");
+void TerminalOptionsFormView::ShowWhetherStored(const OptionsFormEvents& form) {
+    if (form.IsDirty()) terminal_.Print("Changes are not stored yet.");
 }
 
 void TerminalOptionsFormView::Obey(const std::string& command, OptionsFormEvents& form) {
@@ -132,13 +132,13 @@ void TerminalOptionsFormView::Obey(const std::string& command, OptionsFormEvents
         return ListAround(*row, form);
     }
     const std::string last = std::to_string(numbered.size());
-    terminal_.Tell("Please type a number from 1 to " + last + ", h, h and a number, o, a or c.");
+    terminal_.Print("Please type a number from 1 to " + last + ", h, h and a number, o, a or c.");
 }
 
 void TerminalOptionsFormView::Apply(OptionsFormEvents& form) {
     const bool wasDirty = form.IsDirty();
     form.Apply();
-    terminal_.Tell(wasDirty ? "Stored." : "Nothing has changed.");
+    terminal_.Print(wasDirty ? "Stored." : "Nothing has changed.");
 }
 
 bool TerminalOptionsFormView::HelpOn(std::string_view typed, OptionsFormEvents& form) {
@@ -161,7 +161,7 @@ void TerminalOptionsFormView::TypeOver(const FormControlRow& row, const std::str
     for (std::size_t i = CharacterCount(row.text); i > 0; --i) form.Type(backspaceKey);
     bool dropped = false;
     for (const char32_t key : ToCharacters(text)) dropped |= !form.Type(key);
-    if (dropped) terminal_.Tell("\aNot every key was taken.");
+    if (dropped) terminal_.Print("\aNot every key was taken.");
 }
 
 }  // namespace wxbrg

@@ -28,9 +28,9 @@ class TerminalOptionsFormView : public OptionsFormView {
 
     void List(const OptionsFormEvents& form);
     void ListPage(const Rows& rows, const FormControlRow& tab);
-    /// What stands on the page of a control that has just changed.
+    /// What is on the page of a control that has just changed.
     void ListAround(const FormControlRow& changed, const OptionsFormEvents& form);
-    void TellWhetherStored(const OptionsFormEvents& form);
+    void ShowWhetherStored(const OptionsFormEvents& form);
     void Obey(const std::string& command, OptionsFormEvents& form);
     void Apply(OptionsFormEvents& form);
     /// False where `typed` is not the number of a control.

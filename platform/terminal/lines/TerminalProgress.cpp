@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 constexpr auto firstDelay = 1s;
 constexpr auto interval = 100ms;
 
-/// Back to the start of the line, and what stands behind that taken away.
+/// Back to the start of the line, and what follows that taken away.
 constexpr std::string_view clearLine = "\r\033[K";
 
 std::string Amount(std::uint64_t done, std::uint64_t total) {

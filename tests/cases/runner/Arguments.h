@@ -6,7 +6,7 @@
 
 namespace wxbrg::cases {
 
-/// What this test program is to do, beside what GoogleTest's own arguments tell.
+/// What this test program is to do, beside what GoogleTest's own arguments say.
 struct Arguments {
     enum class Mode {
         test,    ///< runs all tests

@@ -50,7 +50,7 @@ TEST(Lists, AListIsReadInColumnsBetweenTabs) {
                 testing::ElementsAre(ListLine{"name", "a reason"}, ListLine{"other", "one"}));
 }
 
-TEST(Lists, ALineOfOtherColumnsIsToldWithItsPlace) {
+TEST(Lists, ALineOfOtherColumnsIsReportedWithItsPlace) {
     try {
         ParseList("list", "# comment\na\tb\na b\n", 2);
         FAIL() << "nothing was thrown";

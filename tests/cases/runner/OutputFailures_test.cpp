@@ -49,13 +49,13 @@ class OutputFailures : public testing::Test {
     TemporaryFolder folder_;
 };
 
-TEST_F(OutputFailures, AFolderThatCannotBeWrittenIsToldWithTheFilesName) {
+TEST_F(OutputFailures, AFolderThatCannotBeWrittenIsReportedWithTheFilesName) {
     const std::string file = (UnwritableFolder() / "out.wpx").string();
     ExpectBox(Export(file), "075", "file access error: " + file);
     EXPECT_FALSE(std::filesystem::exists(file));
 }
 
-TEST_F(OutputFailures, AFolderInPlaceOfTheDefinitionFileIsToldWithItsName) {
+TEST_F(OutputFailures, AFolderInPlaceOfTheDefinitionFileIsReportedWithItsName) {
     std::filesystem::create_directory(folder_ / "out.wpx");
     ExpectBox(Export("out.wpx"), "075", "file access error: out.wpx");
 }

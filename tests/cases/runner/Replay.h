@@ -15,7 +15,7 @@ inline constexpr const char* optionsName = "options";
 /// How the replay of a case as a process went.
 struct ReplayOutcome {
     int status = 0;   ///< exit status
-    std::string err;  ///< what stood on the standard error
+    std::string err;  ///< what was on the standard error
     Files files;      ///< what the run wrote, dates masked, with "options"; "transcript.jsonl" is its output
 };
 

@@ -28,7 +28,7 @@ TEST(Difference, EqualResultsHaveNone) {
     EXPECT_EQ(Difference(files, {0, "", files}), "");
 }
 
-TEST(Difference, FilesThatAreMissingOrTooManyAreTold) {
+TEST(Difference, FilesThatAreMissingOrTooManyAreReported) {
     EXPECT_EQ(Difference({{"out.wpx", ""}}, {0, "", {{"out.log", "a\n"}}}),
               "out.log was written, which is not expected:\n"
               "+    1  a\n"
@@ -49,7 +49,7 @@ TEST(Difference, TranscriptsCountByWhatTheySay) {
               "+    1  {\"exit\": \"ä\", \"number\": 7}\n");
 }
 
-TEST(Difference, AProgramThatFailsIsTold) {
+TEST(Difference, AProgramThatFailsIsReported) {
     EXPECT_EQ(Difference({}, {2, "no such case", {}}),
               "wxbrg ended with status 2.\n"
               "wxbrg wrote to its standard error:\n"
@@ -97,7 +97,7 @@ TEST(JsonLines, EscapesOrderAndBlanksDoNotCount) {
               "{\"a\": \"ä😀\\r\\n\\\"/\", \"b\": [1, true]}\n{}\n");
 }
 
-TEST(JsonLines, WhatIsNoJsonIsTold) {
+TEST(JsonLines, WhatIsNoJsonIsReported) {
     for (const char* line : {"{", "{\"a\"}", "\"a", "{\"a\": 1,}", "1 2", "{\"a\": 1, \"a\": 2}", "\"\\x\"",
                              "\"\\u00g0\"", "\"\\ud83d\\u0041\"", "normal!"})
         EXPECT_THROW(CanonicalJsonLines(line), std::invalid_argument) << line;
