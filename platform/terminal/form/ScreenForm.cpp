@@ -80,7 +80,7 @@ void ScreenForm::Focus(const FormControlRow& row) {
 void ScreenForm::MoveFocus(std::ptrdiff_t step) {
     const std::vector<const FormControlRow*> stops = Stops();
     if (stops.empty()) return;
-    // A control that has just been disabled is no stop, but still tells where to go on.
+    // A control that has just been disabled is no stop, but still says where to go on.
     const FormControlRow* focused = Focused();
     const auto at = std::lower_bound(stops.begin(), stops.end(), focused);
     const bool isStop = at != stops.end() && *at == focused;
@@ -188,7 +188,7 @@ FormAct ScreenForm::PressAccessKey(char32_t character) {
         const bool shown = row.page == state_.page || row.page == noPage || row.kind == FormControlKind::tab;
         if (shown && row.enabled && ToFormCaption(row.caption).Key() == wanted) return Choose(row);
         const bool isTab = row.kind == FormControlKind::tab;
-        if (isTab && static_cast<char32_t>(U'1' + row.page) == wanted) return Choose(row);
+        if (isTab && U'1' + static_cast<char32_t>(row.page) == wanted) return Choose(row);
     }
     return FormAct::beep;
 }
