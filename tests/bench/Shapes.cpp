@@ -55,6 +55,16 @@ Ends AddDiamonds(Drawing& drawing, std::int64_t pairs) {
     return ends;
 }
 
+void AddRowOfRuleObjects(Drawing& drawing, const Ends& ends, std::int64_t count) {
+    Ref<FakeObject> last = drawing.RuleObject();
+    drawing.FunctionToRule(ends.from, last);
+    for (std::int64_t i = 1; i < count; ++i) {
+        const Ref<FakeObject> next = drawing.RuleObject();
+        drawing.RuleToRule(last, next);
+        last = next;
+    }
+}
+
 Ends AddGrid(Drawing& drawing, std::int64_t width) {
     constexpr int rows = 10;
     const Ends ends{drawing.Function(1), drawing.Function(2), nullptr};

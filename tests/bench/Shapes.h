@@ -68,6 +68,10 @@ struct Ends {
 /// `pairs` ways.
 Ends AddDiamonds(Drawing& drawing, std::int64_t pairs);
 
+/// As many rule objects in a row behind the first function of a network. A search that goes down the row is
+/// nested one level deeper with each.
+void AddRowOfRuleObjects(Drawing& drawing, const Ends& ends, std::int64_t count);
+
 /// Ten rows of `width` rule objects, each joined to all of the next row.
 Ends AddGrid(Drawing& drawing, std::int64_t width);
 

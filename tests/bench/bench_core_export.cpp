@@ -79,22 +79,14 @@ void WholeExport_ToFiles(benchmark::State& state) {
     std::filesystem::remove(std::filesystem::path(output).replace_extension(".log"));
 }
 
-BENCHMARK(WholeExport_InMemory)
-    ->RangeMultiplier(10)
-    ->Range(10, 1000)
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime()
-    ->MeasureProcessCPUTime()
-    ->Complexity();
-BENCHMARK(WholeExport_ToFiles)
-    ->RangeMultiplier(10)
-    ->Range(10, 1000)
-    ->Iterations(1)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime()
-    ->MeasureProcessCPUTime()
-    ->Complexity();
+/// One export of 10, 100 and 1,000 models.
+void OverDecadesOfModels(benchmark::internal::Benchmark* whole) {
+    whole->RangeMultiplier(10)->Range(10, 1000)->Iterations(1)->Unit(benchmark::kMillisecond);
+    whole->UseRealTime()->MeasureProcessCPUTime()->Complexity();
+}
+
+BENCHMARK(WholeExport_InMemory)->Apply(OverDecadesOfModels);
+BENCHMARK(WholeExport_ToFiles)->Apply(OverDecadesOfModels);
 
 }  // namespace
 

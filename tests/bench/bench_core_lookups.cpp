@@ -86,18 +86,11 @@ void Grid(benchmark::State& state) {
 
 /// The first way from the start leads through N diamonds, the second one into a chain that is too deep.
 void TooDeepBehindDiamonds(benchmark::State& state) {
-    constexpr int tooDeep = relatedSearchLimit;
     Drawing drawing;
     SilentRun run;
     run.Begin();
     const Ends ends = AddDiamonds(drawing, state.range(0));
-    Ref<FakeObject> last = drawing.RuleObject();
-    drawing.FunctionToRule(ends.from, last);
-    for (int i = 1; i < tooDeep; ++i) {
-        const Ref<FakeObject> next = drawing.RuleObject();
-        drawing.RuleToRule(last, next);
-        last = next;
-    }
+    AddRowOfRuleObjects(drawing, ends, relatedSearchLimit);
     for (auto unused : state) {
         gBlock.gRelatedSearchDepth = 0;
         std::int32_t number = 0;

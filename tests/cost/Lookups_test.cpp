@@ -123,13 +123,7 @@ TEST_F(LookupCostTest, PathsThroughDiamondsAskForEachWayOnOnce) {
 
 TEST_F(LookupCostTest, ADepthThatOnlyTheLastWayReachesIsFoundWithoutWalkingTheOtherWaysAgain) {
     const Ends ends = AddDiamonds(drawing_, 30);
-    Ref<FakeObject> last = drawing_.RuleObject();
-    drawing_.FunctionToRule(ends.from, last);
-    for (int i = 1; i < relatedSearchLimit; ++i) {
-        const Ref<FakeObject> next = drawing_.RuleObject();
-        drawing_.RuleToRule(last, next);
-        last = next;
-    }
+    AddRowOfRuleObjects(drawing_, ends, relatedSearchLimit);
     constexpr std::uint64_t ruleObjects = 3 * 30 + 1 + relatedSearchLimit;
     std::int32_t number = 0;
     EXPECT_LE(QuestionsOf([&] {

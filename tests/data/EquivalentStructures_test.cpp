@@ -2,14 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
 #include "data/StructureIndex.h"
 #include "data/clsDATA_MEMBER.h"
 #include "data/clsDATA_STRUCTURE.h"
 #include "data/modDATA_MEMBER.h"
 #include "data/modDATA_STRUCTURE.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/RandomChoices.h"
 
 namespace wxbrg::test {
 namespace {
@@ -223,10 +222,8 @@ TEST_F(SelfContainingDataTest, MayDoSoOverOthers) {
     EXPECT_TRUE(structure->ColDATA_MEMBER.Item(2));
 }
 
-class StructureIndexPropertyTest : public CoreTest {
+class StructureIndexPropertyTest : public CoreTest, protected RandomChoices<20260102> {
   protected:
-    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-
     Collection<ARISObjDef> SomeOf(const std::vector<Ref<FakeObject>>& pool) {
         Collection<ARISObjDef> some;
         for (int count = 1 + Below(3); count > 0; --count) {
@@ -263,8 +260,6 @@ class StructureIndexPropertyTest : public CoreTest {
             if (walked) ++equal;
         }
     }
-
-    std::mt19937 random{20260102};
     int equal = 0;
 };
 

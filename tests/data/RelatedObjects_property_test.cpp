@@ -2,11 +2,10 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
 #include "data/RelatedObjects.h"
 #include "mapping/RelatingPaths.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/RandomChoices.h"
 
 namespace wxbrg::test {
 namespace {
@@ -29,14 +28,8 @@ struct Answers {
     }
 };
 
-class RelatedObjectsPropertyTest : public CoreTest {
+class RelatedObjectsPropertyTest : public CoreTest, protected RandomChoices<20260103> {
   protected:
-    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-    bool OneIn(int count) { return Below(count) == 0; }
-    Ref<FakeObject> OneOf(const std::vector<Ref<FakeObject>>& objects) {
-        return objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
-    }
-
     /// A rule from functions to data, straight and over objects between, and one that goes on from these. The
     /// second may turn in circles.
     void MakeRules() {
@@ -97,8 +90,6 @@ class RelatedObjectsPropertyTest : public CoreTest {
                 return true;
         return false;
     }
-
-    std::mt19937 random{20260103};
     std::vector<Ref<FakeObject>> functions;
     std::vector<Ref<FakeObject>> between;
     std::vector<Ref<FakeObject>> data;

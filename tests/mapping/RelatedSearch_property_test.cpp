@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <random>
 #include <utility>
 
 #include "mapping/RelatedObjectSearch.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/RandomChoices.h"
 
 namespace wxbrg::test {
 namespace {
@@ -92,11 +92,8 @@ struct Compared {
     int failed = 0;
 };
 
-class RelatedSearchPropertyTest : public CoreTest {
+class RelatedSearchPropertyTest : public CoreTest, protected RandomChoices<20260101> {
   protected:
-    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-    bool OneIn(int count) { return count != 0 && Below(count) == 0; }
-
     /// Rules over two types of objects and two types of connections.
     void MakeRules(const Shape& shape) {
         for (int i = 0; i < ruleCount; ++i) {
@@ -179,8 +176,6 @@ class RelatedSearchPropertyTest : public CoreTest {
         }
         return chain;
     }
-
-    std::mt19937 random{20260101};
 };
 
 TEST_F(RelatedSearchPropertyTest, FindsTheSameInTheSameOrderWithoutCircles) {

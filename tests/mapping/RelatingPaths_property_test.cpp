@@ -3,13 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <random>
 
 #include "mapping/RelatedObjectSearch.h"
 #include "mapping/RelatingPaths.h"
 #include "mapping/RuleTable.h"
 #include "mapping/modPath.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/RandomChoices.h"
 
 namespace wxbrg::test {
 namespace {
@@ -83,14 +83,8 @@ struct Outcome {
     }
 };
 
-class RelatingPathsPropertyTest : public CoreTest {
+class RelatingPathsPropertyTest : public CoreTest, protected RandomChoices<20260105> {
   protected:
-    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-    bool OneIn(int count) { return Below(count) == 0; }
-    Ref<FakeObject> OneOf(const std::vector<Ref<FakeObject>>& objects) {
-        return objects[static_cast<std::size_t>(Below(static_cast<int>(objects.size())))];
-    }
-
     /// Rules over two types of objects that go on with later rules alone, so that chains end whatever the
     /// circles among the objects. A few go on with a rule that there is none of.
     void MakeRules() {
@@ -154,8 +148,6 @@ class RelatingPathsPropertyTest : public CoreTest {
     static std::vector<std::string> Texts(const std::optional<PathCollection>& paths) {
         return paths ? PathTexts(*paths) : std::vector<std::string>();
     }
-
-    std::mt19937 random{20260105};
 };
 
 TEST_F(RelatingPathsPropertyTest, FindsTheSamePathsAndFailsAsThePlainSearchDoes) {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <map>
-#include <random>
 
 #include "mapping/NameConversion.h"
 #include "mapping/RuleLookups.h"
@@ -14,6 +13,7 @@
 #include "model/modCONTROL_CONNECTOR.h"
 #include "model/modPoint.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/RandomChoices.h"
 
 namespace wxbrg::test {
 namespace {
@@ -35,10 +35,8 @@ struct Taken {
     }
 };
 
-class ConnectorPathsPropertyTest : public CoreTest {
+class ConnectorPathsPropertyTest : public CoreTest, protected RandomChoices<20260106> {
   protected:
-    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-    bool OneIn(int count) { return Below(count) == 0; }
     std::string OneOf(const std::vector<std::string>& choices) {
         return choices[static_cast<std::size_t>(Below(static_cast<int>(choices.size())))];
     }
@@ -167,8 +165,6 @@ class ConnectorPathsPropertyTest : public CoreTest {
         connector.SetupProperty_LAYOUT();
         return {connector.Condition, connector.DESCRIPTION, connector.LAYOUT, Notes()};
     }
-
-    std::mt19937 random{20260106};
     std::map<std::string, ARISObjDef> objects;  ///< those between the functions, by name
 };
 

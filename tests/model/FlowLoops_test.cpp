@@ -2,10 +2,9 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
 #include "mapping/StringLists.h"
 #include "tests/fixture/CoreTest.h"
+#include "tests/fixture/RandomChoices.h"
 
 namespace wxbrg::test {
 namespace {
@@ -80,10 +79,8 @@ class PlainWalk {
     Collection<ARISObjDef> visited_;
 };
 
-class FlowLoopsPropertyTest : public CoreTest {
+class FlowLoopsPropertyTest : public CoreTest, protected RandomChoices<20260104> {
   protected:
-    int Below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-
     std::vector<ARISObjDef> MakeObjects(int count) {
         std::vector<ARISObjDef> objects;
         for (int i = 0; i < count; ++i) {
@@ -93,8 +90,6 @@ class FlowLoopsPropertyTest : public CoreTest {
         }
         return objects;
     }
-
-    std::mt19937 random{20260104};
 };
 
 TEST_F(FlowLoopsPropertyTest, AnswersAsThePlainRecursionDoes) {
