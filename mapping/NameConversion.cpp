@@ -9,7 +9,7 @@
 #include "mapping/RuleTable.h"
 #include "options/MessageTexts.h"
 #include "run/Frame.h"
-#include "run/LogNotes.h"
+#include "run/LogLine.h"
 #include "run/clsExceptionHandler.h"
 #include "run/modGlobals.h"
 #include "support/Text.h"

@@ -11,7 +11,7 @@
 #include "mapping/RuleLookups.h"
 #include "mapping/StringLists.h"
 #include "run/Frame.h"
-#include "run/LogNotes.h"
+#include "run/LogLine.h"
 #include "run/clsExceptionHandler.h"
 #include "run/modGlobals.h"
 #include "support/Collection.h"

@@ -2,7 +2,7 @@
 
 #include "output/Block.h"
 #include "run/Frame.h"
-#include "run/LogNotes.h"
+#include "run/LogLine.h"
 #include "run/clsExceptionHandler.h"
 #include "run/clsIOHandler.h"
 #include "run/modGlobals.h"

@@ -1,4 +1,4 @@
-#include "run/LogNotes.h"
+#include "run/LogLine.h"
 
 #include "options/MessageTexts.h"
 #include "run/clsExceptionHandler.h"

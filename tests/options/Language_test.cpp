@@ -5,7 +5,7 @@
 #include <string>
 
 #include "options/MessageTexts.h"
-#include "run/LogNotes.h"
+#include "run/LogLine.h"
 #include "run/modGlobals.h"
 #include "tests/run/RunFixture.h"
 

@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "run/LogNotes.h"
+#include "run/LogLine.h"
 #include "run/clsExceptionHandler.h"
 #include "run/clsIOHandler.h"
 #include "run/modGlobals.h"
