@@ -46,5 +46,31 @@ TEST(Signals, ThoseThatEndTheProgramStayAsTheCallerHasThem) {
     }
 }
 
+TEST(Signals, TheFirstRequestToStopIsKeptAndTheSecondEndsTheProgram) {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        const std::unique_ptr<StopRequests> stop = CatchStopSignals();
+        EXPECT_NO_THROW(stop->Check());
+        std::raise(number);
+        EXPECT_EQ(stop->Signal(), number);
+        EXPECT_THROW(stop->Check(), StopRequested);
+        EXPECT_EXIT(std::raise(SIGTERM), testing::KilledBySignal(SIGTERM), "");
+    }
+}
+
+TEST(Signals, AnIgnoredRequestToStopStaysIgnored) {
+    const auto before = std::signal(SIGHUP, SIG_IGN);
+    {
+        const std::unique_ptr<StopRequests> stop = CatchStopSignals();
+        std::raise(SIGHUP);
+        EXPECT_EQ(stop->Signal(), 0);
+    }
+    std::signal(SIGHUP, before);
+}
+
+TEST(Signals, BehindTheCatchingTheyAreAsBefore) {
+    CatchStopSignals();
+    EXPECT_EXIT(std::raise(SIGTERM), testing::KilledBySignal(SIGTERM), "");
+}
+
 }  // namespace
 }  // namespace wxbrg
