@@ -16,6 +16,7 @@ BatchPlatform::BatchPlatform(const ToolEnvironment& environment, BatchSettings s
                                          .helpViewer = helpViewer_,
                                          .progress = setting.progress,
                                          .profileStore = &setting.profileStore,
+                                         .fileSystem = setting.fileSystem,
                                          .mappingProfile = std::move(setting.mappingProfile)})) {}
 
 }  // namespace wxbrg::cli

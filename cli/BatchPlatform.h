@@ -19,6 +19,7 @@ struct BatchSettings {
     std::ostream& boxes;                        ///< where boxes are printed
     std::string output = {};                    ///< what the file dialog gives
     std::optional<std::string> mappingProfile;  ///< as in `Platform`
+    FileSystem* fileSystem = nullptr;           ///< null: that of the tool
 };
 
 /// The platform of a run with nobody to ask.

@@ -4,9 +4,10 @@
 #include <filesystem>
 #include <ostream>
 #include <sstream>
-#include <system_error>
 
 #include "cli/BatchPlatform.h"
+#include "cli/ExitStatus.h"
+#include "cli/ExportFiles.h"
 #include "cli/ExportSummary.h"
 #include "cli/ModelChoice.h"
 #include "cli/OpenRepository.h"
@@ -14,6 +15,7 @@
 #include "cli/ProcessTypes.h"
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
+#include "cli/StoppingProgress.h"
 #include "cli/UsageError.h"
 #include "platform/Path.h"
 #include "platform/scripted/OverlayProfileStore.h"
@@ -29,13 +31,6 @@ std::unique_ptr<CodePage> OpenCodePage(const ExportArguments& given, const ToolE
         throw UsageError("There is no code page " + std::to_string(given.codePage.value_or(0)) +
                          " on this system; 65001 is UTF-8, 1252 Western European.");
     return codePage;
-}
-
-void RequireOutputApart(const ExportArguments& given) {
-    std::error_code error;
-    if (std::filesystem::equivalent(PathOf(given.output), PathOf(given.repository.file), error))
-        throw UsageError("The definition file would overwrite the repository " + given.repository.file +
-                         "; give another name with -o.");
 }
 
 /// The options given for this run.
@@ -76,27 +71,33 @@ struct BatchParts {
     std::optional<std::string> mappingProfile;  ///< as in `Platform`
 };
 
-RunReport RunBatch(const RunRequest& request, const std::string& output, aris::Automation& automation,
+RunReport RunBatch(const RunRequest& request, FileSystem& files, aris::Automation& automation,
                    BatchParts& own, const ToolEnvironment& environment) {
     BatchPlatform platform(environment, {.profileStore = own.profileStore,
                                          .codePage = *own.codePage,
                                          .progress = *own.progress,
                                          .boxes = environment.err,
-                                         .output = output,
-                                         .mappingProfile = own.mappingProfile});
+                                         .output = ExportFiles::NameForTheRun(),
+                                         .mappingProfile = own.mappingProfile,
+                                         .fileSystem = &files});
     RunReport report = RunExport(request, platform.Get(), automation);
     own.progress->Report({}, 0, 0);
     return report;
 }
 
-}  // namespace
-
-int RunExportCommand(const ExportArguments& given, const ToolEnvironment& environment) {
-    const auto start = std::chrono::steady_clock::now();
-    RequireOutputApart(given);
+BatchParts PartsOf(const ExportArguments& given, const ToolEnvironment& environment,
+                   const StopRequests& stop) {
     BatchParts own{OverlayProfileStore(environment.profileStore), OpenCodePage(given, environment),
-                   environment.progress(), ChosenProfile(given.rules, environment.fileSystem)};
+                   std::make_unique<StoppingProgress>(environment.progress(), stop),
+                   ChosenProfile(given.rules, environment.fileSystem)};
     PutSettings(given, own.profileStore);
+    return own;
+}
+
+int Export(const ExportArguments& given, const ToolEnvironment& environment, const StopRequests& stop) {
+    const auto start = std::chrono::steady_clock::now();
+    ExportFiles files(given, environment, stop);
+    BatchParts own = PartsOf(given, environment, stop);
     // What the boxes say here, those of the run say again.
     std::ostringstream ignored;
     const ProcessTypes inForce =
@@ -106,16 +107,31 @@ int RunExportCommand(const ExportArguments& given, const ToolEnvironment& enviro
     request.selection = Select(given, repository, inForce);
     const std::unique_ptr<aris::Automation> automation =
         environment.catalogueAutomation(*repository.catalogue);
-    const RunReport report = RunBatch(request, given.output, *automation, own, environment);
+    const RunReport report = RunBatch(request, files.Files(), *automation, own, environment);
 
     ReportProgramFailure(report, environment.err);
-    if (report.ending != RunEnding::normal || given.quiet)
+    const bool complete = files.Finish(report, environment.err);
+    if (!complete || given.quiet)
         ReportLostCharacters(*own.codePage, environment.err);
     else
-        WriteSummary({given.output, report, *repository.catalogue, own.codePage->Number(),
-                      own.codePage->LackingCharacters(), std::chrono::steady_clock::now() - start},
-                     environment.out);
-    return ExitStatusOf(report, given.strict);
+        WriteSummary(
+            {files.Definition().name, report, *repository.catalogue, own.codePage->Number(),
+             own.codePage->LackingCharacters(), std::chrono::steady_clock::now() - start},
+            files.Definition().place == StagedPlace::standardOutput ? environment.err : environment.out);
+    if (complete) return ExitStatusOf(report, given.strict);
+    return stop.Signal() == 0 ? ExitStatus::failure : ExitStatus::signalled + stop.Signal();
+}
+
+}  // namespace
+
+int RunExportCommand(const ExportArguments& given, const ToolEnvironment& environment) {
+    const std::unique_ptr<StopRequests> stop = environment.catchStopRequests();
+    try {
+        return Export(given, environment, *stop);
+    } catch (const StopRequested& request) {
+        environment.err << "wxbrg: " << request.what() << '\n';
+        return ExitStatus::signalled + request.signal;
+    }
 }
 
 }  // namespace wxbrg::cli

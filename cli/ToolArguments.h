@@ -31,6 +31,8 @@ struct ExportArguments {
     std::string language;                   ///< empty: the stored one
     std::optional<std::uint32_t> codePage;  ///< nothing: the system's
     std::vector<std::string> settings;      ///< "Name=Value" each
+    std::optional<std::string> log;         ///< nothing: beside the output; "none": no log
+    bool noClobber = false;                 ///< an output or log that exists is not replaced
     bool strict = false;
     bool quiet = false;
 };

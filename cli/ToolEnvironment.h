@@ -6,10 +6,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "aris/Catalogue.h"
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
+#include "platform/StagedFiles.h"
+#include "platform/StopRequests.h"
 
 namespace wxbrg::cli {
 
@@ -43,6 +46,16 @@ struct ToolEnvironment {
         folderAutomation;
     /// An ARIS whose one database, under any name, is an opened repository, which outlives it.
     std::function<std::unique_ptr<aris::Automation>(aris::Catalogue& catalogue)> catalogueAutomation;
+
+    /// Stages the files of a run over `fileSystem`. The requests to stop outlive them. Throws
+    /// `TargetRefused`, `TargetBusy` and `Failure`.
+    std::function<std::unique_ptr<StagedFiles>(const std::vector<StagedTarget>& targets,
+                                               const StopRequests& stop)>
+        stageFiles;
+    /// From this call until the result goes, requests to end the program are kept for the run to obey.
+    std::function<std::unique_ptr<StopRequests>()> catchStopRequests;
+    /// The files that stored options are in, where they are in files.
+    std::vector<std::string> optionFiles;
 };
 
 }  // namespace wxbrg::cli

@@ -52,9 +52,15 @@ void AddExport(CLI::App& app, ToolArguments& arguments) {
     CLI::App& command = *AddSubcommand(app, "export", "Export models, with no questions asked",
                                        Subcommand::exportRun, arguments);
     AddRepository(command, given.repository);
-    command.add_option("-o,--output", given.output, "Definition file to write; the log goes beside it")
+    command
+        .add_option("-o,--output", given.output,
+                    "Definition file to write; the log goes beside it. - is the standard output")
         ->required()
         ->type_name("FILE");
+    command
+        .add_option("--log", given.log, "Log to write in place of the one beside the output; none for no log")
+        ->type_name("FILE");
+    command.add_flag("--no-clobber", given.noClobber, "Replace no definition file or log that exists");
     CLI::Option* model = command
                              .add_option("--model", given.models,
                                          "Model to export, by name or Guid; may be given several times")

@@ -14,6 +14,11 @@ namespace {
 /// What the buffer for a text holds, its terminating zero included.
 constexpr std::size_t textCapacity = 4096;
 
+/// The name of a language's files without its ending.
+std::string StemOf(std::string_view tag) {
+    return std::string("wxbrg").append(tag);
+}
+
 std::string TagOf(const ProfileValue& stored) {
     std::string tag = TextOf(stored);
     return tag.empty() ? std::string(defaultLanguage) : tag;
@@ -25,17 +30,21 @@ std::string StoredLanguage(const ProfileStore& store) {
     return TagOf(GetProfileValue(store, programKey, languageValue));
 }
 
+std::string LanguageLibraryName(std::string_view tag) {
+    return StemOf(tag) + ".dll";
+}
+
 bool LoadLocalizedResources() {
     return Procedure("modUtilities.LoadLocalizedResources", [&](Frame&) {
-        const std::string stem = "wxbrg" + TagOf(GetProfileValue(programKey, languageValue));
-        const std::string fileName = stem + ".dll";
+        const std::string tag = TagOf(GetProfileValue(programKey, languageValue));
+        const std::string fileName = LanguageLibraryName(tag);
         gBlock.gResourceLibrary = gBlock.gPlatform->languageLibraries.Load(fileName);
         const bool loaded = gBlock.gResourceLibrary != nullptr;
         if (!loaded)
             clsExceptionHandler::ShowMessageBox(
                 "The Language Resource file '" + fileName + "' could not be found.",
                 BoxStyle::ok + Severity::critical + BoxStyle::foreground);
-        gBlock.gHelpFile = stem + ".hlp";
+        gBlock.gHelpFile = StemOf(tag) + ".hlp";
         return loaded;
     });
 }

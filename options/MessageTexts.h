@@ -13,6 +13,9 @@ namespace wxbrg {
 /// The tag of the language that is stored, "ENU" where none is.
 std::string StoredLanguage(const ProfileStore& store);
 
+/// The file name of the language library of a tag.
+std::string LanguageLibraryName(std::string_view tag);
+
 /// Loads the language library that the stored value "Language" names ("ENU" where none is stored), and sets
 /// the help file of the same language. Returns false, after a message to the user, when the library is not
 /// there.

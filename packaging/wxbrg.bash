@@ -5,8 +5,8 @@ _wxbrg_words() {
     case $1 in
     '') echo 'export models profile options replay --help -h --version' ;;
     export)
-        echo '--locale --types --output -o --model --all --profile --default-rules --user --language' \
-            '--code-page --set --strict --quiet --help -h'
+        echo '--locale --types --output -o --log --no-clobber --model --all --profile --default-rules --user' \
+            '--language --code-page --set --strict --quiet --help -h'
         ;;
     models) echo '--locale --types --all --profile --default-rules --help -h' ;;
     profile) echo 'print check diff --help -h' ;;
@@ -50,6 +50,7 @@ _wxbrg() {
 
     case "$command:$previous" in
     export:--output | export:-o) files=(_wxbrg_files "$current" .wpx) ;;
+    export:--log) files=(_wxbrg_files "$current" .log) ;;
     export:--types | models:--types) files=(_wxbrg_files "$current") ;;
     export:--profile | models:--profile | 'profile print:--profile') files=(_wxbrg_files "$current" .prf) ;;
     replay:--out) files=(compgen -d -- "$current") ;;

@@ -61,6 +61,11 @@ FileDialogSettings DialogSettings() {
 
 }  // namespace
 
+std::string LogFileNameOf(std::string_view definitionName) {
+    constexpr std::size_t extension = 4;
+    return std::string(WithoutLast(definitionName, extension)).append(".log");
+}
+
 const std::string& clsIOHandler::NameOr(const std::string& FileName) const {
     return FileName.empty() ? sOutputFileName : FileName;
 }
@@ -143,8 +148,7 @@ std::string clsIOHandler::FileSelectDialog() {
     return Procedure("clsIOHandler.FileSelectDialog", [&](Frame& frame) {
         sOutputFileName = AskOutputFile(frame);
         AllocateFile(sOutputFileName);
-        constexpr std::size_t extension = 4;
-        sLogFileName = std::string(WithoutLast(sOutputFileName, extension)).append(".log");
+        sLogFileName = LogFileNameOf(sOutputFileName);
         AllocateFile(sLogFileName);
         return sOutputFileName;
     });

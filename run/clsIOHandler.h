@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/FileSystem.h"
 #include "run/modGlobals.h"
@@ -16,6 +17,10 @@ inline constexpr std::int16_t read = 1;    ///< text, from the start
 inline constexpr std::int16_t write = 2;   ///< the file is created or emptied
 inline constexpr std::int16_t append = 3;  ///< at the end; the file is created if missing
 }  // namespace FileMode
+
+/// The name of the log of a definition file: ".log" in place of the last four characters. Fails with 5 where
+/// there are not as many.
+std::string LogFileNameOf(std::string_view definitionName);
 
 /// The only class that touches files: the output, its log and the mapping profile. Text in files is in the
 /// active code page, each printed text is followed by CR LF. No file stays open between two calls, so that

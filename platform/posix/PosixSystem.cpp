@@ -16,6 +16,7 @@
 #include "aris/xml/XmlRepository.h"
 #include "cli/System.h"
 #include "options/MessageTexts.h"
+#include "platform/Path.h"
 #include "platform/posix/DlDesktop.h"
 #include "platform/posix/DlLanguageLibraries.h"
 #include "platform/posix/IconvCodePage.h"
@@ -24,6 +25,7 @@
 #include "platform/posix/PosixUserLocale.h"
 #include "platform/posix/ProgramLocation.h"
 #include "platform/posix/Signals.h"
+#include "platform/posix/StagedFileSystem.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/scripted/NoProgress.h"
 #include "platform/terminal/form/CursesScreen.h"
@@ -74,6 +76,11 @@ std::unique_ptr<aris::Automation> OpenCatalogue(aris::Catalogue& catalogue) {
     return std::make_unique<CatalogueAutomation>(catalogue);
 }
 
+std::vector<std::string> OptionFiles() {
+    const ProfileStoreFiles files = DefaultProfileStoreFiles();
+    return {TextOf(files.user), TextOf(files.machine)};
+}
+
 class PosixSystem : public System {
   public:
     std::vector<std::string> Arguments(int argc, char** argv) const override {
@@ -88,24 +95,31 @@ class PosixSystem : public System {
     SystemClock clock_;
     PosixUserLocale userLocale_;
     PosixFileSystem fileSystem_;
-    const ToolEnvironment environment_{.out = std::cout,
-                                       .err = std::cerr,
-                                       .profileStore = profileStore_,
-                                       .languageLibraries = languageLibraries_,
-                                       .clock = clock_,
-                                       .userLocale = userLocale_,
-                                       .fileSystem = fileSystem_,
-                                       .programDirectory = program_.directory,
-                                       .programName = program_.name,
-                                       .codePage = OpenCodePage,
-                                       .progress = ShowProgress,
-                                       .dialogs =
-                                           [this] {
-                                               return MakeDialogs(program_, profileStore_);
-                                           },
-                                       .openRepository = OpenXmlRepository,
-                                       .folderAutomation = OpenFolder,
-                                       .catalogueAutomation = OpenCatalogue};
+    const ToolEnvironment environment_{
+        .out = std::cout,
+        .err = std::cerr,
+        .profileStore = profileStore_,
+        .languageLibraries = languageLibraries_,
+        .clock = clock_,
+        .userLocale = userLocale_,
+        .fileSystem = fileSystem_,
+        .programDirectory = program_.directory,
+        .programName = program_.name,
+        .codePage = OpenCodePage,
+        .progress = ShowProgress,
+        .dialogs =
+            [this] {
+                return MakeDialogs(program_, profileStore_);
+            },
+        .openRepository = OpenXmlRepository,
+        .folderAutomation = OpenFolder,
+        .catalogueAutomation = OpenCatalogue,
+        .stageFiles =
+            [this](const std::vector<StagedTarget>& targets, const StopRequests& stop) {
+                return StageFiles(fileSystem_, targets, stop);
+            },
+        .catchStopRequests = CatchStopSignals,
+        .optionFiles = OptionFiles()};
 };
 
 }  // namespace

@@ -60,6 +60,12 @@ class BadProfileTest : public ProgramTest, public testing::WithParamInterface<Ba
     }
 };
 
+/// What an export adds.
+constexpr const char* incomplete =
+    "wxbrg: The export is not complete: out.wpx was not written; what there is of it is in out.wpx.partial "
+    "and "
+    "out.log.partial.\n";
+
 TEST_P(BadProfileTest, EndsTheExportAsItEndsTheInteractiveRun) {
     const ProcessResult replayed = Run({"replay", "case", "--out", "out"});
     ASSERT_EQ(replayed.status, 0) << replayed.err;
@@ -69,10 +75,10 @@ TEST_P(BadProfileTest, EndsTheExportAsItEndsTheInteractiveRun) {
          {std::vector<std::string>{}, {"--all"}, {"--model", "Orders"}, {"--model", "{m1}"}}) {
         const ProcessResult exported = Export(choice);
         EXPECT_EQ(exported.status, 1);
-        EXPECT_EQ(exported.err, PrintedBoxes(replayed.out));
+        EXPECT_EQ(exported.err, PrintedBoxes(replayed.out) + incomplete);
         EXPECT_EQ(exported.out, "");
-        EXPECT_EQ(folder.Read("out.wpx"), folder.Read("out/result.wpx"));
-        EXPECT_EQ(folder.Read("out.log"), folder.Read("out/result.log"));
+        EXPECT_EQ(folder.Read("out.wpx.partial"), folder.Read("out/result.wpx"));
+        EXPECT_EQ(folder.Read("out.log.partial"), folder.Read("out/result.log"));
     }
 }
 

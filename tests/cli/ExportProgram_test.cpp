@@ -39,15 +39,6 @@ TEST_F(ExportProgram, TheOutputHasTheNameThatWasGiven) {
     EXPECT_FALSE(Exists("plain.wpx"));
 }
 
-TEST_F(ExportProgram, ANameTooShortForALogIsEmptiedAndThenFails) {
-    WriteOneModel();
-    folder.Write("abc", "old");
-    const ProcessResult result = Run({"export", "one.aml", "-o", "abc"});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, HasSubstr("WXB00005C "));
-    EXPECT_EQ(folder.Read("abc"), "");
-}
-
 TEST_F(ExportProgram, TheNamedModelsAreExported) {
     WriteExport("two.aml", {{"{m1}", "Orders"}, {"{m2}", "Returns"}});
     EXPECT_EQ(Run({"export", "two.aml", "-o", "out.wpx", "--model", "Returns"}).status, 0);
@@ -197,15 +188,6 @@ TEST_F(ExportProgram, ARepositoryThatCannotBeReadIsTold) {
         EXPECT_EQ(result.out, "");
     }
     EXPECT_FALSE(Exists("out.wpx"));
-}
-
-TEST_F(ExportProgram, AnOutputFolderThatIsNotThereIsToldInABoxWithTheFilesName) {
-    WriteOneModel();
-    const ProcessResult result = Run({"export", "one.aml", "-o", "none/out.wpx"});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, AllOf(HasSubstr("ARIS to Tarnlight Workflow Bridge"), HasSubstr("WXB00076C "),
-                                  HasSubstr("path not found: none/out.wpx")));
-    EXPECT_EQ(result.out, "");
 }
 
 TEST_F(ExportProgram, TheRepositoryIsNeverOverwritten) {

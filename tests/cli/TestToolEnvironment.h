@@ -8,6 +8,8 @@
 #include "cli/ToolEnvironment.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/Signals.h"
+#include "platform/posix/StagedFileSystem.h"
 #include "platform/scripted/FixedClock.h"
 #include "platform/scripted/MemoryLanguageLibraries.h"
 #include "platform/scripted/MemoryProfileStore.h"
@@ -54,7 +56,12 @@ struct TestToolEnvironment {
                       },
                       [](aris::Catalogue& catalogue) {
                           return std::make_unique<CatalogueAutomation>(catalogue);
-                      }} {}
+                      },
+                      [this](const std::vector<StagedTarget>& targets, const StopRequests& stop) {
+                          return StageFiles(fileSystem, targets, stop);
+                      },
+                      CatchStopSignals,
+                      {}} {}
     TestToolEnvironment(const TestToolEnvironment&) = delete;
     TestToolEnvironment& operator=(const TestToolEnvironment&) = delete;
 

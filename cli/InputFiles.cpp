@@ -1,0 +1,40 @@
+#include "cli/InputFiles.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include "options/MessageTexts.h"
+#include "platform/FileIdentity.h"
+#include "platform/Path.h"
+
+namespace wxbrg::cli {
+
+std::vector<InputFile> CommonInputFiles(const ToolEnvironment& environment, const std::string& language,
+                                        const std::string& profile) {
+    std::vector<InputFile> files;
+    for (const std::string& options : environment.optionFiles)
+        files.push_back({"the file of the stored options", options});
+    files.push_back(
+        {"the language library", FileInFolder(environment.programDirectory, LanguageLibraryName(language))});
+    files.push_back({"the mapping profile", profile});
+    return files;
+}
+
+std::string ProfileBesideProgram(const ToolEnvironment& environment) {
+    return FileInFolder(environment.programDirectory, environment.programName + ".prf");
+}
+
+const InputFile* InputLostBy(const std::string& name, const std::vector<InputFile>& inputs) {
+    const std::filesystem::path file = ResolvedFile(PathOf(name));
+    const std::array places{PathOf(name), StageOf(file), PartialOf(file)};
+    const auto lost = std::find_if(inputs.begin(), inputs.end(), [&](const InputFile& input) {
+        return !input.name.empty() &&
+               std::any_of(places.begin(), places.end(), [&](const std::filesystem::path& place) {
+                   return IsSameFile(place, PathOf(input.name));
+               });
+    });
+    return lost == inputs.end() ? nullptr : &*lost;
+}
+
+}  // namespace wxbrg::cli

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/ToolEnvironment.h"
+
+namespace wxbrg::cli {
+
+/// A file that a run reads.
+struct InputFile {
+    std::string what;  ///< such as "the repository"
+    std::string name;
+};
+
+/// The files that every run reads, whatever it is given: stored options and the library of a language (its
+/// tag). `profile` is the name of the mapping profile; empty for none.
+std::vector<InputFile> CommonInputFiles(const ToolEnvironment& environment, const std::string& language,
+                                        const std::string& profile);
+
+/// The mapping profile beside the program.
+std::string ProfileBesideProgram(const ToolEnvironment& environment);
+
+/// The input that a run would lose by writing to `name`: the file itself, or one that lies where the file is
+/// staged or kept incomplete. Null for none.
+const InputFile* InputLostBy(const std::string& name, const std::vector<InputFile>& inputs);
+
+}  // namespace wxbrg::cli
