@@ -1,0 +1,84 @@
+// Exports that a signal ends.
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+
+#include "cli/Program.h"
+#include "tests/TemporaryFolder.h"
+#include "tests/cli/ProgramFixture.h"
+#include "tests/cli/TestToolEnvironment.h"
+
+namespace wxbrg::cli {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// Exports one model in this process, over an earlier definition file.
+class StoppedExport : public testing::Test {
+  protected:
+    StoppedExport() {
+        folder.Write("one.aml", SmallExport({{"{m1}", "Orders"}}));
+        folder.Write("out.wpx", "good definition");
+        tool.languageLibraries.Put("wxbrgENU.dll", {});
+    }
+    int Export() {
+        return RunProgram(
+            {"export", folder.NameOf("one.aml"), "-o", folder.NameOf("out.wpx"), "--default-rules"},
+            tool.environment);
+    }
+    bool Exists(const std::string& name) const { return std::filesystem::exists(folder / name); }
+
+    TemporaryFolder folder;
+    TestToolEnvironment tool;
+};
+
+TEST_F(StoppedExport, WhileTheRepositoryIsReadNothingWasWritten) {
+    tool.environment.openRepository = [](const aris::RepositoryRequest& request) {
+        std::raise(SIGHUP);
+        return OpenXmlRepository(request);
+    };
+    EXPECT_EQ(Export(), 128 + SIGHUP);
+    EXPECT_EQ(tool.err.str(), "wxbrg: The run was stopped by the signal 1.\n");
+    EXPECT_EQ(folder.Read("out.wpx"), "good definition");
+    EXPECT_FALSE(Exists(".out.wpx.wxbrg-new") || Exists("out.wpx.partial") || Exists("out.log"));
+}
+
+TEST_F(StoppedExport, InTheRunEarlierFilesStayAndWhatWasWrittenIsKept) {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        tool.environment.catalogueAutomation = [number](aris::Catalogue& catalogue) {
+            std::raise(number);
+            return std::make_unique<CatalogueAutomation>(catalogue);
+        };
+        EXPECT_EQ(Export(), 128 + number);
+        EXPECT_THAT(tool.err.str(),
+                    StartsWith("wxbrg: The run was stopped by the signal " + std::to_string(number) + ".\n"));
+        EXPECT_THAT(tool.err.str(), EndsWith("out.wpx.partial and " + folder.NameOf("out.log.partial.\n")));
+        EXPECT_EQ(tool.out.str(), "");
+        EXPECT_EQ(folder.Read("out.wpx"), "good definition");
+        EXPECT_FALSE(Exists(".out.wpx.wxbrg-new"));
+        EXPECT_TRUE(Exists("out.wpx.partial"));
+        tool.err.str("");
+    }
+}
+
+TEST(StoppedExportProgram, WaitingForTheReaderOfAPipeIsStopped) {
+    struct Folder : ProgramTest {
+        void TestBody() override {}
+        using ProgramTest::environment;
+        using ProgramTest::folder;
+        using ProgramTest::WriteOneModel;
+    } test;
+    test.WriteOneModel();
+    const std::string script = std::string("mkfifo pipe; ") + WXBRG_PROGRAM +
+                               " export one.aml -o pipe --log out.log & "
+                               "until [ -e out.log ]; do sleep 0.01; done; kill -TERM $!; wait $!";
+    const ProcessResult result = RunProcess({"sh", "-c", script}, {"", test.folder.Path(), test.environment});
+    EXPECT_EQ(result.status, 128 + SIGTERM) << result.err;
+    EXPECT_THAT(result.err, HasSubstr("The export is not complete: pipe was not written"));
+}
+
+}  // namespace
+}  // namespace wxbrg::cli
