@@ -67,7 +67,7 @@ bool PosixProfileStore::Write(std::string_view key, std::string_view name, const
     return ReplaceFile(files_.user, [&](const std::string& bytes) -> std::optional<std::string> {
         std::optional<RegistryText> registry = RegistryText::Parse(bytes);
         if (!registry || !registry->Set(FullKey(userRoot, key), name, value)) return std::nullopt;
-        return registry->Text();
+        return registry->Bytes();
     });
 }
 
@@ -75,7 +75,7 @@ bool PosixProfileStore::Remove(std::string_view key, std::string_view name) {
     const auto without = [&](const std::string& bytes) -> std::optional<std::string> {
         std::optional<RegistryText> registry = RegistryText::Parse(bytes);
         if (!registry) return std::nullopt;
-        return registry->Remove(FullKey(userRoot, key), name) ? registry->Text() : bytes;
+        return registry->Remove(FullKey(userRoot, key), name) ? registry->Bytes() : bytes;
     };
     // Nothing is made or locked for a value that is not there.
     const std::optional<std::string> bytes = ReadRegularFile(files_.user);

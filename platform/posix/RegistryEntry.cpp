@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "platform/posix/Utf16.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -96,7 +97,7 @@ class Reader {
 };
 
 /// What bytes of a type stand for: the value of a string or number, empty for everything else.
-ProfileValue ValueOfBytes(std::uint32_t type, std::string_view bytes) {
+ProfileValue ValueOfBytes(std::uint32_t type, std::string_view bytes, RegistryBytes form) {
     if (type == numberType && bytes.size() == 4) {
         std::uint32_t number = 0;
         for (std::size_t i = 0; i < 4; ++i)
@@ -104,15 +105,17 @@ ProfileValue ValueOfBytes(std::uint32_t type, std::string_view bytes) {
         return static_cast<std::int32_t>(number);
     }
     if (type != stringType) return {};
-    if (!IsUtf8(bytes)) return {};
+    const std::optional<std::string> whole =
+        form == RegistryBytes::utf16 ? Utf8OfUtf16(bytes) : std::optional<std::string>(bytes);
+    if (!whole || !IsUtf8(*whole)) return {};
     // The last character counts as the terminating zero, whatever it is.
-    const std::string_view text = WithoutLast(bytes, std::min(CharacterCount(bytes), std::size_t{1}));
+    const std::string_view text = WithoutLast(*whole, std::min(CharacterCount(*whole), std::size_t{1}));
     if (text.find('\0') != std::string_view::npos) return {};
     return std::string(text);
 }
 
 /// Reads the type and bytes behind "hex". Nothing for what cannot be read.
-std::optional<ProfileValue> TakeHexData(Reader& reader) {
+std::optional<ProfileValue> TakeHexData(Reader& reader, RegistryBytes form) {
     std::uint32_t type = binaryType;
     if (reader.Skip("(")) {
         const std::optional<std::uint32_t> number = reader.TakeHex(8);
@@ -130,25 +133,25 @@ std::optional<ProfileValue> TakeHexData(Reader& reader) {
         reader.SkipBlanks();
         more = reader.Skip(",");
     }
-    return ValueOfBytes(type, bytes);
+    return ValueOfBytes(type, bytes, form);
 }
 
 /// Reads the data of a value. Nothing for what cannot be read.
-std::optional<ProfileValue> TakeData(Reader& reader) {
+std::optional<ProfileValue> TakeData(Reader& reader, RegistryBytes form) {
     if (reader.Skip("-")) return std::optional<ProfileValue>(std::in_place);
     if (reader.Skip(numberPrefix)) {
         const std::optional<std::uint32_t> number = reader.TakeHex(8);
         if (!number) return std::nullopt;
         return static_cast<std::int32_t>(*number);
     }
-    if (reader.Skip(hexPrefix)) return TakeHexData(reader);
+    if (reader.Skip(hexPrefix)) return TakeHexData(reader, form);
     std::optional<std::string> text = reader.TakeQuoted();
     if (!text || !IsUtf8(*text)) return std::nullopt;
     return std::move(*text);
 }
 
 /// Reads a value from the front of a text. Nothing where there is none that can be read.
-std::optional<RegistryEntry> ReadValue(std::string_view text) {
+std::optional<RegistryEntry> ReadValue(std::string_view text, RegistryBytes form) {
     RegistryEntry entry;
     entry.kind = RegistryEntry::Kind::value;
     Reader reader(text);
@@ -162,7 +165,7 @@ std::optional<RegistryEntry> ReadValue(std::string_view text) {
     if (!reader.Skip("=")) return std::nullopt;
     reader.SkipBlanks();
     entry.dataBegin = reader.Position();
-    std::optional<ProfileValue> value = TakeData(reader);
+    std::optional<ProfileValue> value = TakeData(reader, form);
     if (!value) return std::nullopt;
     entry.value = std::move(*value);
     entry.dataEnd = reader.Position();
@@ -191,15 +194,18 @@ RegistryEntry ReadLine(std::string_view line) {
     return entry;
 }
 
-std::string HexOfString(const std::string& text) {
+std::string HexOfString(std::string text, RegistryBytes form) {
     constexpr std::string_view digits = "0123456789abcdef";
+    text.push_back('\0');
+    if (form == RegistryBytes::utf16) text = Utf16OfUtf8(text);
     std::string data(hexPrefix);
     data += "(1):";
     for (const char byte : text) {
         const auto value = static_cast<unsigned char>(byte);
         data.append({digits[value >> 4U], digits[value & 0xFU], ','});
     }
-    return data + "00";
+    data.pop_back();
+    return data;
 }
 
 std::string Quoted(std::string_view text) {
@@ -213,8 +219,8 @@ std::string Quoted(std::string_view text) {
 
 }  // namespace
 
-RegistryEntry TakeRegistryEntry(std::string_view& rest) {
-    std::optional<RegistryEntry> entry = ReadValue(rest);
+RegistryEntry TakeRegistryEntry(std::string_view& rest, RegistryBytes bytes) {
+    std::optional<RegistryEntry> entry = ReadValue(rest, bytes);
     if (!entry) entry = ReadLine(rest.substr(0, std::min(rest.find('\n'), rest.size() - 1) + 1));
     rest.remove_prefix(entry->text.size());
     return std::move(*entry);
@@ -232,7 +238,7 @@ std::optional<std::string> RegistryName(std::string_view name) {
     return Quoted(name);
 }
 
-std::optional<std::string> RegistryData(const ProfileValue& value) {
+std::optional<std::string> RegistryData(const ProfileValue& value, RegistryBytes bytes) {
     if (const auto* number = std::get_if<std::int32_t>(&value)) {
         std::array<char, 8> digits{};
         auto* const end =
@@ -242,7 +248,7 @@ std::optional<std::string> RegistryData(const ProfileValue& value) {
     }
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr || !IsUtf8(*text) || text->find('\0') != std::string::npos) return std::nullopt;
-    return HoldsControlCharacter(*text) ? HexOfString(*text) : Quoted(*text);
+    return HoldsControlCharacter(*text) ? HexOfString(*text, bytes) : Quoted(*text);
 }
 
 }  // namespace wxbrg

@@ -4,49 +4,68 @@
 #include <utility>
 
 #include "platform/ProfileStore.h"
+#include "platform/posix/Utf16.h"
 #include "support/Text.h"
 
 namespace wxbrg {
 
 namespace {
 
-constexpr std::string_view firstLine = "REGEDIT4";
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view ownFirstLine = "REGEDIT4";
+constexpr std::string_view editorsFirstLine = "Windows Registry Editor Version 5.00";
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view utf16Mark = "\xFF\xFE";
 
 std::string FoldedKey(std::string_view key) {
     return UpperCase(PlainProfileKey(key));
 }
 
-bool IsFirstLine(std::string_view line) {
-    if (line.starts_with(byteOrderMark)) line.remove_prefix(byteOrderMark.size());
-    if (!line.starts_with(firstLine)) return false;
-    return line.find_first_not_of(" \t\r\n", firstLine.size()) == std::string_view::npos;
+/// How the strings behind a first line are stored as bytes; nothing for a line that is none.
+std::optional<RegistryBytes> BytesBehind(std::string_view line) {
+    if (line.starts_with(utf8Mark)) line.remove_prefix(utf8Mark.size());
+    line = line.substr(0, line.find_last_not_of(" \t\r\n") + 1);
+    if (line == ownFirstLine) return RegistryBytes::utf8;
+    if (line == editorsFirstLine) return RegistryBytes::utf16;
+    return std::nullopt;
 }
 
 }  // namespace
 
 RegistryText::RegistryText() {
-    const std::string line = std::string(firstLine) + lineBreak_;
+    const std::string line = std::string(ownFirstLine) + lineBreak_;
     std::string_view rest = line;
-    lines_.push_back(MakeLine(TakeRegistryEntry(rest), {}));
+    lines_.push_back(TakeLine(rest, {}));
 }
 
-std::optional<RegistryText> RegistryText::Parse(std::string_view text) {
-    RegistryText registry;
-    if (text.empty()) return registry;
-    registry.lines_.clear();
-    std::string key;
-    while (!text.empty()) {
-        registry.lines_.push_back(MakeLine(TakeRegistryEntry(text), key));
-        if (registry.lines_.size() == 1 && !IsFirstLine(registry.lines_[0].entry.text)) return std::nullopt;
-        key = registry.lines_.back().key;
-    }
-    if (registry.lines_[0].entry.text.ends_with("\r\n")) registry.lineBreak_ = "\r\n";
+std::optional<RegistryText> RegistryText::Parse(std::string_view bytes) {
+    if (bytes.empty()) return RegistryText();
+    if (!bytes.starts_with(utf16Mark)) return ParseText(bytes);
+    const std::optional<std::string> text = Utf8OfUtf16(bytes);
+    if (!text) return std::nullopt;
+    std::optional<RegistryText> registry = ParseText(*text);
+    if (registry) registry->inUtf16_ = true;
     return registry;
 }
 
-RegistryText::Line RegistryText::MakeLine(RegistryEntry entry, const std::string& keyAbove) {
+std::optional<RegistryText> RegistryText::ParseText(std::string_view text) {
+    const std::string_view firstLine = text.substr(0, text.find('\n') + 1);
+    const std::optional<RegistryBytes> stringBytes = BytesBehind(firstLine.empty() ? text : firstLine);
+    if (!stringBytes) return std::nullopt;
+    RegistryText registry;
+    registry.lines_.clear();
+    registry.stringBytes_ = *stringBytes;
+    if (firstLine.ends_with("\r\n")) registry.lineBreak_ = "\r\n";
+    std::string key;
+    while (!text.empty()) {
+        registry.lines_.push_back(registry.TakeLine(text, key));
+        key = registry.lines_.back().key;
+    }
+    return registry;
+}
+
+RegistryText::Line RegistryText::TakeLine(std::string_view& rest, const std::string& keyAbove) const {
     using Kind = RegistryEntry::Kind;
+    RegistryEntry entry = TakeRegistryEntry(rest, stringBytes_);
     std::string key = entry.kind == Kind::key ? FoldedKey(entry.name) : keyAbove;
     std::string name = entry.kind == Kind::value ? UpperCase(entry.name) : std::string();
     return {std::move(entry), std::move(key), std::move(name)};
@@ -67,7 +86,7 @@ ProfileValue RegistryText::Get(std::string_view key, std::string_view name) cons
 }
 
 bool RegistryText::Set(std::string_view key, std::string_view name, const ProfileValue& value) {
-    const std::optional<std::string> data = RegistryData(value);
+    const std::optional<std::string> data = RegistryData(value, stringBytes_);
     const std::optional<std::string> nameText = RegistryName(name);
     const std::string foldedKey = FoldedKey(key);
     if (!data || !nameText || foldedKey.empty() || !IsUtf8(key) || HoldsControlCharacter(key)) return false;
@@ -104,8 +123,7 @@ void RegistryText::InsertLine(std::size_t place, const std::string& text) {
     if (!above.entry.text.ends_with('\n')) above.entry.text += lineBreak_;
     const std::string line = text + lineBreak_;
     std::string_view rest = line;
-    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(place),
-                  MakeLine(TakeRegistryEntry(rest), above.key));
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(place), TakeLine(rest, above.key));
 }
 
 void RegistryText::AppendKey(std::string_view key) {
@@ -113,10 +131,10 @@ void RegistryText::AppendKey(std::string_view key) {
     InsertLine(lines_.size(), std::string("[").append(PlainProfileKey(key)).append("]"));
 }
 
-std::string RegistryText::Text() const {
+std::string RegistryText::Bytes() const {
     std::string text;
     for (const Line& line : lines_) text += line.entry.text;
-    return text;
+    return inUtf16_ ? Utf16OfUtf8(text) : text;
 }
 
 }  // namespace wxbrg

@@ -11,13 +11,17 @@
 
 namespace wxbrg {
 
-/// Values in the text form of registry files, in UTF-8:
+/// Values in the text form of registry files:
 ///
 ///     REGEDIT4
 ///
 ///     [HKEY_CURRENT_USER\Software\Example]
 ///     "Name"="a \"text\" with a \\"
 ///     "Number"=dword:0000000a
+///
+/// The first line is "REGEDIT4", or "Windows Registry Editor Version 5.00" as today's registry editor writes
+/// it. The text is UTF-8, with or without a byte order mark, or UTF-16 with one, low byte first. It keeps its
+/// first line and its encoding.
 ///
 /// A change touches the lines of the one value that it changes. Everything else stays as it stands, byte for
 /// byte: foreign keys, values of other types, comments, the order, and lines that cannot be read. A line that
@@ -34,9 +38,9 @@ class RegistryText {
     /// An empty registry: the first line alone.
     RegistryText();
 
-    /// Reads a text. An empty one is an empty registry; nothing for a text of another form, which shows in
-    /// its first line.
-    static std::optional<RegistryText> Parse(std::string_view text);
+    /// Reads the bytes of a file. None are an empty registry; nothing for those of another form, which shows
+    /// in the first line.
+    static std::optional<RegistryText> Parse(std::string_view bytes);
 
     /// The value, or nothing where there is none, or one that is neither a string nor a 32-bit number.
     ProfileValue Get(std::string_view key, std::string_view name) const;
@@ -49,8 +53,8 @@ class RegistryText {
     /// Takes a value out, wherever it stands. Returns whether there was one.
     bool Remove(std::string_view key, std::string_view name);
 
-    /// The whole text.
-    std::string Text() const;
+    /// The bytes of the whole file.
+    std::string Bytes() const;
 
   private:
     struct Line {
@@ -63,7 +67,8 @@ class RegistryText {
         }
     };
 
-    static Line MakeLine(RegistryEntry entry, const std::string& keyAbove);
+    static std::optional<RegistryText> ParseText(std::string_view text);
+    Line TakeLine(std::string_view& rest, const std::string& keyAbove) const;
     const Line* Find(std::string_view key, std::string_view name) const;
     /// Behind what the last section of a key holds; nothing where the key has no section.
     std::optional<std::size_t> PlaceInKey(const std::string& foldedKey) const;
@@ -72,6 +77,8 @@ class RegistryText {
 
     std::vector<Line> lines_;
     std::string lineBreak_ = "\n";
+    RegistryBytes stringBytes_ = RegistryBytes::utf8;
+    bool inUtf16_ = false;
 };
 
 }  // namespace wxbrg

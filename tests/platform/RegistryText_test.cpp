@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/posix/Utf16.h"
+
 namespace wxbrg {
 namespace {
 
@@ -26,8 +28,8 @@ std::string AfterSet(const std::string& text, const ProfileValue& value) {
     RegistryText registry = Parsed(text);
     EXPECT_TRUE(registry.Set(key, "A", value));
     EXPECT_EQ(registry.Get(key, "A"), value);
-    EXPECT_EQ(Parsed(registry.Text()).Get(key, "A"), value);
-    return registry.Text();
+    EXPECT_EQ(Parsed(registry.Bytes()).Get(key, "A"), value);
+    return registry.Bytes();
 }
 
 TEST(RegistryText, ReadsStrings) {
@@ -114,7 +116,7 @@ TEST(RegistryText, TheFirstLineTellsTheForm) {
          {"REGEDIT4", "REGEDIT4\n", "REGEDIT4 \r\n\r\n", "\xEF\xBB\xBFREGEDIT4\n", ""})
         EXPECT_TRUE(RegistryText::Parse(text)) << text;
     for (const std::string text : {"\n", "REGEDIT", "REGEDIT45\n", "\nREGEDIT4\n", "[HKEY_CURRENT_USER]\n",
-                                   "Windows Registry Editor Version 5.00\n", "\x7F\x45LF"})
+                                   "Windows Registry Editor Version 4.00\n", "\x7F\x45LF"})
         EXPECT_FALSE(RegistryText::Parse(text)) << text;
 }
 
@@ -122,7 +124,7 @@ TEST(RegistryText, AnyTextOfTheFormComesBackByteForByte) {
     for (const std::string& text :
          {std::string("REGEDIT4"), std::string("REGEDIT4\r\n\r\n[K]\r\n\"A\"=hex(7):61,\\\r\n  00\r\nrest"),
           std::string("REGEDIT4\n\0\n[\n]\n\"\n@\n@=\n\\\n\\", 25), std::string("REGEDIT4\n\n\n\xFF\xFE\n")})
-        EXPECT_EQ(Parsed(text).Text(), text);
+        EXPECT_EQ(Parsed(text).Bytes(), text);
 }
 
 TEST(RegistryText, AnEmptyRegistryGetsItsFirstValue) {
@@ -176,7 +178,7 @@ TEST(RegistryText, NewLinesEndAsTheFirstOneDoes) {
 
 TEST(RegistryText, WhatHasNoPlaceInTheFormIsNotSet) {
     RegistryText registry;
-    const std::string before = registry.Text();
+    const std::string before = registry.Bytes();
     EXPECT_FALSE(registry.Set(key, "A", ProfileValue()));
     EXPECT_FALSE(registry.Set(key, "A", std::string("a\0b", 3)));
     EXPECT_FALSE(registry.Set(key, "A", "\xFF"));
@@ -184,14 +186,14 @@ TEST(RegistryText, WhatHasNoPlaceInTheFormIsNotSet) {
     EXPECT_FALSE(registry.Set(key, "\xFF", 1));
     EXPECT_FALSE(registry.Set("HKEY_CURRENT_USER\\a\nb", "A", 1));
     EXPECT_FALSE(registry.Set("\\", "A", 1));
-    EXPECT_EQ(registry.Text(), before);
+    EXPECT_EQ(registry.Bytes(), before);
 }
 
 TEST(RegistryText, NamesOfAnyPrintableCharacterAreKept) {
     RegistryText registry;
     for (const std::string name : {"", R"(a"b\c)", "=", "ä ]", "@"}) {
         EXPECT_TRUE(registry.Set(R"(HKEY_CURRENT_USER\a]b [c])", name, "x" + name));
-        EXPECT_EQ(Parsed(registry.Text()).Get(R"(HKEY_CURRENT_USER\A]b [c]\)", name),
+        EXPECT_EQ(Parsed(registry.Bytes()).Get(R"(HKEY_CURRENT_USER\A]b [c]\)", name),
                   ProfileValue("x" + name));
     }
 }
@@ -200,8 +202,73 @@ TEST(RegistryText, RemovingTakesOutEveryLineOfTheValue) {
     RegistryText registry =
         Parsed(WithLines("\"A\"=dword:1\n\"B\"=dword:2\n\"a\"=hex:01,\\\n 02\n\"A\"=torn\n; A\n"));
     EXPECT_TRUE(registry.Remove(key, "A"));
-    EXPECT_EQ(registry.Text(), WithLines("\"B\"=dword:2\n\"A\"=torn\n; A\n"));
+    EXPECT_EQ(registry.Bytes(), WithLines("\"B\"=dword:2\n\"A\"=torn\n; A\n"));
     EXPECT_FALSE(registry.Remove(key, "A"));
+}
+
+constexpr std::string_view editorsHead = "Windows Registry Editor Version 5.00\r\n\r\n";
+
+/// A file as today's registry editor writes it, whose key holds these lines.
+std::string EditorsText(const std::string& lines) {
+    return std::string(editorsHead) + "[HKEY_CURRENT_USER\\Software\\Example]\r\n" + lines;
+}
+
+/// A text in UTF-16 with its byte order mark.
+std::string Marked(const std::string& text) {
+    return Utf16OfUtf8("\xEF\xBB\xBF" + text);
+}
+
+TEST(RegistryText, FilesOfTodaysRegistryEditorAreReadInUtf8AndUtf16) {
+    const std::string text = EditorsText("\"A\"=\"Grüße 漢字 😀\"\r\n");
+    for (const std::string& bytes : {text, "\xEF\xBB\xBF" + text, Marked(text)}) {
+        EXPECT_EQ(Parsed(bytes).Get(key, "A"), ProfileValue("Grüße 漢字 😀"));
+        EXPECT_EQ(Parsed(bytes).Bytes(), bytes);
+    }
+}
+
+TEST(RegistryText, AChangedFileKeepsItsFirstLineAndItsEncoding) {
+    const std::string old = EditorsText("\"A\"=dword:00000001\r\n");
+    const std::string changed = EditorsText("\"A\"=\"ä\"\r\n");
+    EXPECT_EQ(AfterSet(old, ProfileValue("ä")), changed);
+    EXPECT_EQ(AfterSet(Marked(old), ProfileValue("ä")), Marked(changed));
+    const std::string own = "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Example]\r\n";
+    EXPECT_EQ(AfterSet(Marked(own), 2), Marked(own + "\"A\"=dword:00000002\r\n"));
+}
+
+TEST(RegistryText, TodaysRegistryEditorStoresStringsAsBytesOfUtf16) {
+    const std::string text = EditorsText("\"A\"=hex(1):61,00,0a,00,e4,00,00,00\r\n");
+    EXPECT_EQ(Parsed(text).Get(key, "A"), ProfileValue("a\nä"));
+    EXPECT_EQ(AfterSet(EditorsText(""), ProfileValue("a\nä")), text);
+    EXPECT_EQ(Parsed(EditorsText("\"A\"=hex(1):61,00,62\r\n")).Get(key, "A"), ProfileValue());
+}
+
+TEST(RegistryText, Utf16ThatIsNoTextStaysAsItIs) {
+    const std::string lone = Marked(EditorsText("\"B\"=\"")) + std::string("\x3D\xD8", 2) +
+                             Utf16OfUtf8("\"\r\n\"A\"=dword:00000001\r\n");
+    EXPECT_EQ(Parsed(lone).Get(key, "A"), ProfileValue(1));
+    EXPECT_EQ(Parsed(lone).Get(key, "B"), ProfileValue());
+    EXPECT_EQ(Parsed(lone).Bytes(), lone);
+}
+
+TEST(RegistryText, OtherFirstLinesAndHalfUnitsAreOfAnotherForm) {
+    EXPECT_FALSE(RegistryText::Parse("Windows Registry Editor Version 6.00\r\n"));
+    EXPECT_FALSE(RegistryText::Parse("\xFF\xFE"));
+    EXPECT_FALSE(RegistryText::Parse(Marked(std::string(editorsHead)) + "x"));
+    EXPECT_FALSE(RegistryText::Parse(Utf16OfUtf8(editorsHead)));
+    EXPECT_FALSE(RegistryText::Parse(Marked("[HKEY_CURRENT_USER]\r\n")));
+}
+
+TEST(Utf16, EveryCharacterComesBack) {
+    for (const std::string text : {"", "a", "é", "\xEF\xBF\xBF", "😀", "\xF4\x8F\xBF\xBF"})
+        EXPECT_EQ(Utf8OfUtf16(Utf16OfUtf8(text)), text);
+    EXPECT_EQ(Utf16OfUtf8("a😀"), std::string("a\0\x3D\xD8\x00\xDE", 6));
+}
+
+TEST(Utf16, EveryUnitComesBack) {
+    std::string bytes;
+    for (unsigned unit = 0; unit < 0x10000; ++unit)
+        bytes.append({static_cast<char>(unit & 0xFFU), static_cast<char>(unit >> 8U)});
+    EXPECT_EQ(Utf16OfUtf8(Utf8OfUtf16(bytes).value()), bytes);
 }
 
 }  // namespace
