@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace wxbrg {
 
@@ -15,6 +16,9 @@ enum class ProfileScope { user, machine };
 
 /// The store of named values under named keys (on Windows the registry). Keys are paths with backslashes, a
 /// trailing one makes no difference; names of keys and values compare without regard to case.
+///
+/// What goes wrong is a value that is not there, or a false result. Who wants to report it asks for the
+/// problems: texts for the user, in whole sentences, that name the place, the cause and what to do.
 class ProfileStore {
   public:
     virtual ~ProfileStore() = default;
@@ -28,6 +32,13 @@ class ProfileStore {
 
     /// Takes a value out of the user's scope. Returns whether it is gone, also when it never was there.
     virtual bool Remove(std::string_view key, std::string_view name) = 0;
+
+    /// Why stored values cannot be read, a text for each place; none where all can be.
+    virtual std::vector<std::string> ReadProblems() const { return {}; }
+
+    /// Why the first `Write` or `Remove` since the last call failed; empty where none did, and where the
+    /// store knows no reason.
+    virtual std::string TakeWriteProblem() { return {}; }
 };
 
 /// A key without backslashes at its end.

@@ -8,17 +8,34 @@
 #include <array>
 #include <cerrno>
 #include <string_view>
+#include <system_error>
+#include <thread>
 #include <utility>
+
+#include "platform/Path.h"
+#include "support/Text.h"
 
 namespace wxbrg {
 
 namespace {
 
+namespace fs = std::filesystem;
+
+/// Calls the system until no signal interrupts it.
+template <class Call>
+auto Retried(const Call& call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    return result;
+}
+
 /// An open file descriptor, or none.
 class Descriptor {
   public:
-    Descriptor(const std::filesystem::path& file, int flags, mode_t mode = 0)
-        : number_(open(file.c_str(), flags | O_CLOEXEC, mode)) {}
+    Descriptor(const fs::path& file, int flags, mode_t mode = 0)
+        : number_(Retried([&] {
+              return open(file.c_str(), flags | O_CLOEXEC, mode);
+          })) {}
     ~Descriptor() {
         if (number_ >= 0) close(number_);
     }
@@ -34,45 +51,137 @@ class Descriptor {
     int number_;
 };
 
+/// A file's name in a message: of one that is too long only the beginning.
+std::string NameOf(const fs::path& file) {
+    constexpr std::size_t longest = 300;
+    const std::string name = TextOf(file);
+    return name.size() <= longest ? name : std::string(WithinBytes(name, longest)) + "…";
+}
+
+/// What the user can do about an error of the system.
+std::string_view WayOut(int error) {
+    switch (error) {
+        case EACCES:
+        case EPERM:
+            return "Allow yourself to use the file and the folders on its way.";
+        case EMFILE:
+        case ENFILE:
+            return "Close other files and programs, or raise the limit of open files.";
+        case ENOSPC:
+        case EDQUOT:
+            return "Make room on the disk.";
+        case EROFS:
+            return "Make the file system writable.";
+        case ENAMETOOLONG:
+            return "Give the folder a shorter path.";
+        case ENOTDIR:
+        case ELOOP:
+            return "Correct the path: a name on its way is no folder.";
+        case EIO:
+            return "Check the disk.";
+        default:
+            return "Repair the file or move it away.";
+    }
+}
+
+[[noreturn]] void Fail(const fs::path& file, std::string_view what, int error) {
+    throw FileUseError(NameOf(file)
+                           .append(" ")
+                           .append(what)
+                           .append(": ")
+                           .append(std::generic_category().message(error))
+                           .append(". ")
+                           .append(WayOut(error)));
+}
+
+[[noreturn]] void FailAsUnfit(const fs::path& file, std::string_view cause) {
+    throw FileUseError(NameOf(file).append(" ").append(cause).append(". Move it away."));
+}
+
 /// Makes a folder for the user's settings and those above it, readable for the user alone.
-bool MakeFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-    if (folder.empty() || std::filesystem::is_directory(folder, error)) return true;
-    if (!MakeFolder(folder.parent_path())) return false;
-    return mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST;
+void MakeFolder(const fs::path& folder) {
+    struct stat status {};
+    const std::string& name = folder.native();
+    if (name.empty() || stat(name.c_str(), &status) == 0) return;
+    if (errno != ENOENT) Fail(folder, "cannot be used", errno);
+    for (std::size_t end = name.find('/', 1);; end = name.find('/', end + 1)) {
+        const std::string above = name.substr(0, end);
+        if (mkdir(above.c_str(), S_IRWXU) != 0) {
+            const int error = errno;
+            if (stat(above.c_str(), &status) != 0) Fail(above, "cannot be made", error);
+        }
+        if (end == std::string::npos) return;
+    }
 }
 
 /// The file that a name stands for in the end, with symbolic links resolved.
-std::filesystem::path ResolvedFile(const std::filesystem::path& file) {
+fs::path ResolvedFile(const fs::path& file) {
     std::error_code error;
-    std::filesystem::path resolved = std::filesystem::canonical(file, error);
+    fs::path resolved = fs::canonical(file, error);
     return error ? file : resolved;
 }
 
-std::filesystem::path Beside(const std::filesystem::path& file, std::string_view ending) {
-    std::filesystem::path other = file;
+fs::path Beside(const fs::path& file, std::string_view ending) {
+    fs::path other = file;
     other += ending;
     return other;
 }
 
-bool Lock(const Descriptor& file) {
-    while (flock(file.Number(), LOCK_EX) != 0)
-        if (errno != EINTR) return false;
-    return true;
+/// Whether nothing is there under a name that could not be found: no link that leads nowhere stands on its
+/// way or at its end.
+bool IsAbsent(fs::path file) {
+    for (struct stat status{}; lstat(file.c_str(), &status) != 0; file = file.parent_path()) {
+        if (errno != ENOENT) return false;
+        if (!file.has_relative_path() || !file.has_parent_path()) return true;
+    }
+    struct stat behind {};
+    return stat(file.c_str(), &behind) == 0;
+}
+
+void RequireRegularFile(const Descriptor& opened, const fs::path& file) {
+    struct stat status {};
+    if (fstat(opened.Number(), &status) != 0) Fail(file, "cannot be read", errno);
+    if (S_ISDIR(status.st_mode)) FailAsUnfit(file, "is a folder, not a file");
+    if (!S_ISREG(status.st_mode)) FailAsUnfit(file, "is no regular file");
+}
+
+void RequireUsableSize(const fs::path& file, std::size_t size) {
+    if (size > largestUsableFile) FailAsUnfit(file, "holds more than 16 MiB");
+}
+
+/// Takes the lock of a lock file that was just opened, and waits until others have released it. The system
+/// has no call that waits for some time only.
+void Lock(const Descriptor& lock, const fs::path& file, std::chrono::milliseconds patience) {
+    if (!lock.IsOpen()) Fail(file, "cannot be opened as a lock file", errno);
+    RequireRegularFile(lock, file);
+    constexpr std::chrono::milliseconds pause(10);
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (Retried([&] {
+               return flock(lock.Number(), LOCK_EX | LOCK_NB);
+           }) != 0) {
+        if (errno != EWOULDBLOCK) Fail(file, "cannot be locked", errno);
+        if (std::chrono::steady_clock::now() >= end)
+            throw FileLockedError("The lock file " + NameOf(file) +
+                                  " is held by another program, which has not released it in time. "
+                                  "Wait for that program or end it.");
+        std::this_thread::sleep_for(pause);
+    }
 }
 
 bool WriteAll(const Descriptor& file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t count = write(file.Number(), bytes.data(), bytes.size());
-        if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
-        if (count < 0 && errno != EINTR) return false;
+        const ssize_t count = Retried([&] {
+            return write(file.Number(), bytes.data(), bytes.size());
+        });
+        if (count < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
 }
 
 /// Gives a new file the permissions of the one that it replaces, if there is one. Only the superuser can hand
 /// over the owner as well; where that fails the writer owns the file, as with every other file it makes.
-bool CopyPermissions(const std::filesystem::path& from, const Descriptor& to) {
+bool CopyPermissions(const fs::path& from, const Descriptor& to) {
     struct stat status {};
     if (stat(from.c_str(), &status) != 0) return errno == ENOENT;
     const bool owned = fchown(to.Number(), status.st_uid, status.st_gid) == 0;
@@ -81,51 +190,62 @@ bool CopyPermissions(const std::filesystem::path& from, const Descriptor& to) {
     return fchmod(to.Number(), status.st_mode & (owned ? permissions : own)) == 0;
 }
 
+bool MakeDurable(const Descriptor& file) {
+    return Retried([&] {
+               return fsync(file.Number());
+           }) == 0;
+}
+
 /// Puts a new file in the place of another in one step. The caller holds the lock, so that nobody else uses
 /// the new file's name.
-bool PutInPlace(const std::filesystem::path& file, std::string_view bytes) {
-    const std::filesystem::path fresh = Beside(file, ".new");
-    if (unlink(fresh.c_str()) != 0 && errno != ENOENT) return false;
+void PutInPlace(const fs::path& file, std::string_view bytes) {
+    const fs::path fresh = Beside(file, ".new");
+    if (unlink(fresh.c_str()) != 0 && errno != ENOENT) Fail(fresh, "cannot be taken away", errno);
     Descriptor written(fresh, O_WRONLY | O_CREAT | O_EXCL, 0666);
-    if (!written.IsOpen()) return false;
+    if (!written.IsOpen()) Fail(fresh, "cannot be made", errno);
     const bool complete = CopyPermissions(file, written) && WriteAll(written, bytes) &&
-                          fsync(written.Number()) == 0 && written.Close();
-    if (complete && rename(fresh.c_str(), file.c_str()) == 0) return true;
+                          MakeDurable(written) && written.Close() && rename(fresh.c_str(), file.c_str()) == 0;
+    if (complete) return;
+    const int error = errno;
     unlink(fresh.c_str());
-    return false;
+    Fail(file, "cannot be written", error);
 }
 
 }  // namespace
 
-std::optional<std::string> ReadRegularFile(const std::filesystem::path& file) {
+std::string ReadRegularFile(const fs::path& file) {
     const Descriptor opened(file, O_RDONLY | O_NONBLOCK);
     if (!opened.IsOpen()) {
-        const bool missing = errno == ENOENT;
-        return missing ? std::optional<std::string>("") : std::nullopt;
+        const int error = errno;
+        if (error != ENOENT) Fail(file, "cannot be read", error);
+        if (!IsAbsent(file)) Fail(file, "cannot be read, for a link on its way leads nowhere", error);
+        return {};
     }
-    struct stat status {};
-    if (fstat(opened.Number(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    RequireRegularFile(opened, file);
     std::string bytes;
     std::array<char, 65536> block;
     for (;;) {
-        const ssize_t count = read(opened.Number(), block.data(), block.size());
-        if (count > 0) bytes.append(block.data(), static_cast<std::size_t>(count));
+        const ssize_t count = Retried([&] {
+            return read(opened.Number(), block.data(), block.size());
+        });
+        if (count < 0) Fail(file, "cannot be read", errno);
         if (count == 0) return bytes;
-        if (count < 0 && errno != EINTR) return std::nullopt;
+        bytes.append(block.data(), static_cast<std::size_t>(count));
+        RequireUsableSize(file, bytes.size());
     }
 }
 
-bool ReplaceFile(const std::filesystem::path& name,
-                 const std::function<std::optional<std::string>(const std::string& bytes)>& change) {
-    const std::filesystem::path file = ResolvedFile(name);
-    if (!MakeFolder(file.parent_path())) return false;
-    const Descriptor lock(Beside(file, ".lock"), O_RDONLY | O_CREAT, 0666);
-    if (!lock.IsOpen() || !Lock(lock)) return false;
-    const std::optional<std::string> before = ReadRegularFile(file);
-    if (!before) return false;
-    const std::optional<std::string> after = change(*before);
-    if (!after) return false;
-    return *after == *before || PutInPlace(file, *after);
+void ReplaceFile(const fs::path& name, const std::function<std::string(const std::string& bytes)>& change,
+                 std::chrono::milliseconds patience) {
+    const fs::path file = ResolvedFile(name);
+    MakeFolder(file.parent_path());
+    const fs::path lockFile = Beside(file, ".lock");
+    const Descriptor lock(lockFile, O_RDONLY | O_CREAT | O_NONBLOCK, 0666);
+    Lock(lock, lockFile, patience);
+    const std::string before = ReadRegularFile(file);
+    const std::string after = change(before);
+    RequireUsableSize(file, after.size());
+    if (after != before) PutInPlace(file, after);
 }
 
 }  // namespace wxbrg

@@ -1,16 +1,24 @@
 #include "platform/posix/PosixProfileStore.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <thread>
 
+#include "platform/posix/Utf16.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/platform/EnvironmentVariable.h"
 
 namespace wxbrg {
 namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
 
 constexpr std::string_view key = R"(Software\Example)";
 
@@ -29,7 +37,18 @@ class PosixProfileStoreTest : public testing::Test {
     TemporaryFolder folder_;
     std::filesystem::path file_;
     PosixProfileStore store_;
+
+    /// A store that has read nothing yet.
+    PosixProfileStore Fresh() const { return PosixProfileStore({file_, folder_ / "machine.reg"}); }
+    void WriteUsers(const std::string& bytes) const {
+        std::filesystem::create_directories(file_.parent_path());
+        WriteBytes(file_, bytes);
+    }
 };
+
+std::string WithNumber(const std::string& number) {
+    return "REGEDIT4\n[HKEY_CURRENT_USER\\Software\\Example]\n\"Number\"=dword:" + number + "\n";
+}
 
 TEST_F(PosixProfileStoreTest, WritingMakesTheFoldersForTheUserAlone) {
     ASSERT_TRUE(store_.Write(key, "Number", 10));
@@ -55,9 +74,13 @@ TEST_F(PosixProfileStoreTest, AFileOfAnotherFormIsNeitherReadNorChanged) {
          {std::string("\0\0\0\0", 4), std::string("\x7F\x45LF\x02\x01"),
           std::string("[HKEY_CURRENT_USER\\Software\\Example]\n\"Number\"=dword:1\n")}) {
         WriteBytes(file_, bytes);
-        EXPECT_EQ(User("Number"), ProfileValue());
-        EXPECT_FALSE(store_.Write(key, "Number", 10));
-        EXPECT_FALSE(store_.Remove(key, "Number"));
+        PosixProfileStore store = Fresh();
+        EXPECT_EQ(store.Read(ProfileScope::user, key, "Number"), ProfileValue());
+        EXPECT_THAT(store.ReadProblems(),
+                    ElementsAre(AllOf(HasSubstr(file_.string()), HasSubstr("REGEDIT4"))));
+        EXPECT_FALSE(store.Write(key, "Number", 10));
+        EXPECT_FALSE(store.Remove(key, "Number"));
+        EXPECT_EQ(store.TakeWriteProblem(), store.ReadProblems().front());
         EXPECT_EQ(ReadBytes(file_), bytes);
     }
 }
@@ -92,12 +115,77 @@ TEST_F(PosixProfileStoreTest, AFileInPlaceOfTheFolderIsNoFailureOfTheProgram) {
     EXPECT_EQ(User("Number"), ProfileValue());
     EXPECT_FALSE(store_.Write(key, "Number", 1));
     EXPECT_EQ(ReadBytes(folder_ / "made"), "x");
+    EXPECT_THAT(store_.ReadProblems(), ElementsAre(HasSubstr("Not a directory")));
+}
+
+TEST_F(PosixProfileStoreTest, WhatIsNotThereIsNoProblem) {
+    EXPECT_THAT(store_.ReadProblems(), IsEmpty());
+    EXPECT_EQ(store_.TakeWriteProblem(), "");
+}
+
+TEST_F(PosixProfileStoreTest, EachFileThatCannotBeReadIsAProblem) {
+    std::filesystem::create_directories(file_);
+    std::filesystem::create_directory(folder_ / "machine.reg");
+    EXPECT_THAT(store_.ReadProblems(), ElementsAre(HasSubstr(file_.string() + " is a folder"),
+                                                   HasSubstr("machine.reg is a folder")));
+}
+
+TEST_F(PosixProfileStoreTest, AFileIsReadOnceAndChangesOfOthersDoNotMixIn) {
+    WriteUsers(WithNumber("1"));
+    EXPECT_EQ(User("Number"), ProfileValue(1));
+    WriteUsers(WithNumber("2"));
+    EXPECT_EQ(User("Number"), ProfileValue(1));
+    EXPECT_EQ(Fresh().Read(ProfileScope::user, key, "Number"), ProfileValue(2));
+}
+
+TEST_F(PosixProfileStoreTest, WhatIsWrittenCountsAtOnceAndKeepsTheChangesOfOthersInTheFile) {
+    WriteUsers(WithNumber("1"));
+    EXPECT_EQ(User("Number"), ProfileValue(1));
+    WriteUsers(WithNumber("2"));
+    EXPECT_TRUE(store_.Write(key, "Other", 3));
+    EXPECT_EQ(User("Other"), ProfileValue(3));
+    EXPECT_EQ(User("Number"), ProfileValue(1));
+    EXPECT_EQ(ReadBytes(file_), WithNumber("2") + "\"Other\"=dword:00000003\n");
+    EXPECT_TRUE(store_.Remove(key, "Number"));
+    EXPECT_EQ(User("Number"), ProfileValue());
+}
+
+TEST_F(PosixProfileStoreTest, AFileOfTodaysRegistryEditorServes) {
+    const std::string head =
+        "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\Software\\Example]\r\n";
+    WriteUsers(Utf16OfUtf8("\xEF\xBB\xBF" + head));
+    EXPECT_TRUE(store_.Write(key, "Number", 3));
+    EXPECT_EQ(ReadBytes(file_), Utf16OfUtf8("\xEF\xBB\xBF" + head + "\"Number\"=dword:00000003\r\n"));
+}
+
+TEST_F(PosixProfileStoreTest, TheFirstFailureToWriteIsKeptUntilItIsTaken) {
+    std::filesystem::create_directories(file_);
+    EXPECT_FALSE(store_.Write(key, "Number", 1));
+    std::filesystem::remove(file_);
+    EXPECT_TRUE(store_.Write(key, "Number", 1));
+    EXPECT_THAT(store_.TakeWriteProblem(), HasSubstr("is a folder"));
+    EXPECT_EQ(store_.TakeWriteProblem(), "");
+}
+
+TEST_F(PosixProfileStoreTest, ALockHeldByAnotherIsWaitedForOnce) {
+    std::filesystem::create_directories(file_.parent_path());
+    const std::string lock = file_.string() + ".lock";
+    const int held = open(lock.c_str(), O_RDONLY | O_CREAT, 0600);
+    ASSERT_EQ(flock(held, LOCK_EX), 0);
+    PosixProfileStore store({file_, {}}, std::chrono::milliseconds(20));
+    EXPECT_FALSE(store.Write(key, "Number", 1));
+    EXPECT_FALSE(store.Write(key, "Other", 1));
+    EXPECT_THAT(store.TakeWriteProblem(), HasSubstr(lock + " is held by another program"));
+    ASSERT_EQ(close(held), 0);
+    EXPECT_TRUE(store.Write(key, "Number", 1));
 }
 
 TEST_F(PosixProfileStoreTest, WithoutAUsersFileNothingIsStored) {
     PosixProfileStore store({{}, folder_ / "machine.reg"});
     EXPECT_EQ(store.Read(ProfileScope::user, key, "Number"), ProfileValue());
+    EXPECT_THAT(store.ReadProblems(), IsEmpty());
     EXPECT_FALSE(store.Write(key, "Number", 1));
+    EXPECT_THAT(store.TakeWriteProblem(), HasSubstr("Set HOME"));
     EXPECT_TRUE(store.Remove(key, "Number"));
 }
 
@@ -154,6 +242,14 @@ TEST(DefaultProfileStoreFiles, FollowTheEnvironment) {
     {
         const EnvironmentVariable folder("XDG_CONFIG_HOME", "/elsewhere");
         EXPECT_EQ(DefaultProfileStoreFiles().user, "/elsewhere/wxbrg/registry.reg");
+    }
+    {
+        std::string deep;
+        for (int i = 0; i < 60'000; ++i) deep += "/a";
+        const EnvironmentVariable folder("XDG_CONFIG_HOME", deep);
+        PosixProfileStore store(DefaultProfileStoreFiles());
+        EXPECT_THAT(store.ReadProblems(), ElementsAre(HasSubstr("File name too long")));
+        EXPECT_FALSE(store.Write(key, "Number", 1));
     }
     for (const std::optional<std::string>& none :
          {std::optional<std::string>(), std::optional<std::string>(""),
