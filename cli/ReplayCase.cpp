@@ -1,9 +1,10 @@
 #include "cli/ReplayCase.h"
 
+#include <cerrno>
 #include <charconv>
 #include <fstream>
-#include <iterator>
 #include <optional>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -23,13 +24,46 @@ namespace fs = std::filesystem;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view fileAnswer = "file ";
 
+[[noreturn]] void FailToRead(const fs::path& file, const std::string& cause) {
+    throw UsageError(TextOf(file) + " cannot be read: " + cause + ".");
+}
+
+/// Whether a file of the case is there. Throws `UsageError` for what is there and is no regular file, and
+/// where the system does not know.
+bool IsThere(const fs::path& file) {
+    std::error_code error;
+    const fs::file_status named = fs::symlink_status(file, error);
+    if (named.type() == fs::file_type::not_found) return false;
+    const fs::file_status status = fs::status(file, error);
+    if (status.type() == fs::file_type::not_found) FailToRead(file, "it is a link that leads nowhere");
+    if (status.type() == fs::file_type::none) FailToRead(file, error.message());
+    if (!fs::is_regular_file(status)) FailToRead(file, "it is no regular file");
+    return true;
+}
+
+/// Opens a file that is there.
+std::ifstream Opened(const fs::path& file) {
+    errno = 0;
+    std::ifstream stream(file, std::ios::binary);
+    const int error = errno;
+    if (!stream) FailToRead(file, std::generic_category().message(error));
+    return stream;
+}
+
+std::string BytesOf(const fs::path& file) {
+    std::ifstream stream = Opened(file);
+    std::ostringstream bytes;
+    errno = 0;
+    if (stream.peek() != std::ifstream::traits_type::eof()) bytes << stream.rdbuf();
+    const int error = errno;
+    if (error != 0 || stream.bad()) FailToRead(file, std::generic_category().message(error));
+    return bytes.str();
+}
+
 /// A text file as UTF-8, or nothing where it is absent.
 std::optional<std::string> ReadText(const fs::path& file) {
-    std::error_code error;
-    if (!fs::exists(file, error)) return std::nullopt;
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream || !fs::is_regular_file(file, error)) throw UsageError(TextOf(file) + " cannot be read.");
-    std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (!IsThere(file)) return std::nullopt;
+    std::string text = BytesOf(file);
     if (text.starts_with(byteOrderMark)) text.erase(0, byteOrderMark.size());
     if (!IsUtf8(text)) throw UsageError(TextOf(file) + " is not in UTF-8.");
     return text;
@@ -84,8 +118,9 @@ ReplayCase ReadReplayCase(const fs::path& folder) {
     if (!fs::is_directory(folder, error)) throw UsageError("There is no folder " + TextOf(folder) + ".");
     ReplayCase read;
     read.repository = folder / "repository.aml";
-    if (!fs::exists(read.repository, error))
-        throw UsageError("The case has no file " + TextOf(read.repository) + ".");
+    if (!IsThere(read.repository)) throw UsageError("The case has no file " + TextOf(read.repository) + ".");
+    Opened(read.repository);
+    if (const fs::path profile = folder / "profile.prf"; IsThere(profile)) Opened(profile);
     read.commandLine = ReadCommand(folder / "command");
     read.options = ReadText(folder / "options").value_or("");
     read.machineOptions = ReadText(folder / "machine-options").value_or("");

@@ -17,9 +17,10 @@ struct ReplayCase {
 };
 
 /// Reads a case. The repository and the command must be there; another file that is absent stands for nothing
-/// given. The texts are UTF-8; a byte order mark at their start is dropped. Throws `UsageError`, naming the
-/// file: for a folder or a file that is missing or cannot be read, for a code page that is no number, for an
-/// output file named outside the folder of the output, and for a case with a mapping profile.
+/// given. Absent is only what is not there: a link that leads nowhere is not. The texts are UTF-8; a byte
+/// order mark at their start is dropped. Throws `UsageError`, naming file and cause: for a folder or a file
+/// that is missing or cannot be read, the mapping profile among them, for a code page that is no number, and
+/// for an output file named outside the folder of the output.
 ReplayCase ReadReplayCase(const std::filesystem::path& folder);
 
 }  // namespace wxbrg::cli

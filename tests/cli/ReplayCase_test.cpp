@@ -1,6 +1,7 @@
 #include "cli/ReplayCase.h"
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "cli/UsageError.h"
 #include "tests/TemporaryFolder.h"
@@ -10,6 +11,10 @@ namespace {
 
 using testing::HasSubstr;
 using testing::ThrowsMessage;
+
+std::string ReadBytesOr(const std::filesystem::path& file, const std::string& otherwise) {
+    return std::filesystem::exists(file) ? ReadBytes(file) : otherwise;
+}
 
 class ReplayCaseTest : public testing::Test {
   protected:
@@ -79,6 +84,33 @@ TEST_F(ReplayCaseTest, FolderRepositoryAndCommandMustBeThere) {
 TEST_F(ReplayCaseTest, AFolderInPlaceOfAFileCannotBeRead) {
     std::filesystem::create_directory(folder / "options");
     ExpectBad(HasSubstr("options cannot be read"));
+}
+
+TEST_F(ReplayCaseTest, WhatIsThereAndCannotBeReadIsNamedWithItsCause) {
+    folder.Write("profile.prf", "");
+    for (const std::string name :
+         {"repository.aml", "command", "options", "machine-options", "answers", "code-page", "profile.prf"}) {
+        const auto expectBad = [&](const std::string& cause) {
+            ExpectBad(
+                testing::AllOf(HasSubstr((folder / name).string() + " cannot be read"), HasSubstr(cause)));
+            std::filesystem::remove(folder / name);
+        };
+        const std::string before = name == "profile.prf" ? "" : ReadBytesOr(folder / name, "1252");
+        std::filesystem::remove(folder / name);
+        std::filesystem::create_symlink("nowhere", folder / name);
+        expectBad("it is a link that leads nowhere");
+        ASSERT_EQ(mkfifo((folder / name).c_str(), S_IRWXU), 0);
+        expectBad("it is no regular file");
+        std::filesystem::create_symlink(name, folder / name);
+        expectBad("symbolic links");
+        folder.Write(name, name == "answers" || name.ends_with("options") ? "" : before);
+    }
+    EXPECT_NO_THROW(ReadReplayCase(folder.Path()));
+}
+
+TEST_F(ReplayCaseTest, AFailureOfTheDiskIsNoEndOfAFile) {
+    std::filesystem::create_symlink("/proc/self/mem", folder / "answers");
+    ExpectBad(HasSubstr("answers cannot be read: Input/output error."));
 }
 
 TEST_F(ReplayCaseTest, TextsMustBeUtf8) {
