@@ -201,6 +201,10 @@ void frmExportOptions::Ok() {
     Close();
 }
 
+std::string frmExportOptions::TakeStoreProblem() {
+    return gBlock.gPlatform->profileStore.TakeWriteProblem();
+}
+
 void frmExportOptions::Cancel() {
     cmdCancel_Click();
 }

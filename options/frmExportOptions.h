@@ -65,6 +65,7 @@ class frmExportOptions : public OptionsFormEvents {
     void Close() override { closed_ = true; }
     void HelpOn(std::string_view control) override;
     bool IsClosed() const override { return closed_; }
+    std::string TakeStoreProblem() override;
 
   private:
     void Form_Load();

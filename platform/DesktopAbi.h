@@ -17,7 +17,7 @@ struct DesktopSettings {
 namespace DesktopAbi {
 
 /// Goes up whenever the interface changes.
-inline constexpr int version = 1;
+inline constexpr int version = 2;
 
 using VersionFunction = int();
 inline constexpr const char* versionFunctionName = "wxbrg_desktop_version";

@@ -80,7 +80,14 @@ class OptionsFormEvents {
     virtual void HelpOn(std::string_view control) = 0;
     /// Whether the form has been ended.
     virtual bool IsClosed() const = 0;
+    /// Why what the last `Apply` or `Ok` was to store is not stored, as `ProfileStore::TakeWriteProblem` has
+    /// it; empty where it is. The options count for the run all the same. A view asks behind either button
+    /// and shows it.
+    virtual std::string TakeStoreProblem() { return {}; }
 };
+
+/// What a view puts in front of `TakeStoreProblem`.
+inline constexpr std::string_view notStoredText = "The options count for this run, but they are not stored: ";
 
 class OptionsFormView {
   public:

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -106,11 +107,21 @@ void FormDialog::Run() {
 void FormDialog::Do(const std::function<void()>& act) {
     try {
         act();
+        ShowStoreProblem();
         Refresh();
     } catch (...) {
         if (!failure_) failure_ = std::current_exception();
     }
     if (failure_ || form_.IsClosed()) QDialog::done(QDialog::Accepted);
+}
+
+void FormDialog::ShowStoreProblem() {
+    const std::string problem = form_.TakeStoreProblem();
+    if (problem.empty()) return;
+    QMessageBox box(QMessageBox::Warning, windowTitle(), ToQt(std::string(notStoredText) + problem),
+                    QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 void FormDialog::Build() {

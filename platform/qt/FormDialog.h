@@ -49,6 +49,8 @@ class FormDialog : public QDialog {
     /// Brings what an act of the user brings: shows the form anew, and closes the window when the form has
     /// been ended or has failed.
     void Do(const std::function<void()>& act);
+    /// Shows why the options could not be stored, if that has just happened.
+    void ShowStoreProblem();
     void Refresh();
     void Show(const FormControlRow& row);
     /// Help on the control that a widget is, or is in.

@@ -6,9 +6,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTimer>
 
 #include "platform/posix/DlLanguageLibraries.h"
 #include "platform/qt/FilteredField.h"
@@ -158,6 +160,31 @@ TEST_F(FormWindow, ApplyStoresAndLeavesTheWindowOpenAndClean) {
         ClickOn("cmdOK");
     });
     EXPECT_THAT(profileStore_.writes, IsEmpty());
+}
+
+TEST_F(FormWindow, ApplyAndOkShowThatStoringFailed) {
+    std::vector<std::string> shown;
+    const auto pressOkNext = [&] {
+        QTimer::singleShot(0, window_, [&] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            shown.push_back(box->text().toStdString());
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            box->accept();
+        });
+    };
+    ShowWindow([&] {
+        for (const char* const button : {"cmdApply", "cmdOK"}) {
+            ClickOn("cbExitConditions");
+            profileStore_.refuses = true;
+            pressOkNext();
+            ClickOn(button);
+            profileStore_.refuses = false;
+        }
+        EXPECT_FALSE(window_->isVisible());
+    });
+    const std::string text = std::string(notStoredText) + "Nothing is <b>stored</b> here.";
+    EXPECT_THAT(shown, ElementsAre(text, text));
 }
 
 TEST_F(FormWindow, CancelAndNoLeavesTheWindowAsItIs) {

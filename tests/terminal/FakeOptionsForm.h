@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/OptionsFormView.h"
@@ -94,7 +95,9 @@ class FakeOptionsForm : public OptionsFormEvents {
     void HelpOn(std::string_view control) override { events.push_back("help on " + std::string(control)); }
     void Close() override { events.emplace_back("close"); }
     bool IsClosed() const override { return closed; }
+    std::string TakeStoreProblem() override { return std::exchange(storeProblem, {}); }
 
+    std::string storeProblem;
     bool boxChecked = false;
     bool buttonChecked = false;
     std::string text = "0";

@@ -159,6 +159,22 @@ TEST_F(ScreenOptionsFormViewTest, ApplyKeepsTheFormOpen) {
     EXPECT_THAT(script.pictures.back(), Not(HasSubstr("[ Apply ]")));
 }
 
+TEST_F(ScreenOptionsFormViewTest, OptionsThatApplyCouldNotStoreAreReportedBesideTheScreen) {
+    form.dirty = true;
+    form.storeProblem = "The disk is full.";
+    Show({{KeyKind::character, U'a'}, enter}, "\n");
+    EXPECT_EQ(out.str(), std::string(notStoredText) + "The disk is full.\n\nEnter: back to the options ");
+    EXPECT_EQ(script.pictures.size(), 2U);
+    EXPECT_THAT(form.events, ElementsAre("activate", "ok"));
+}
+
+TEST_F(ScreenOptionsFormViewTest, OptionsThatOkCouldNotStoreAreReportedBehindTheForm) {
+    form.storeProblem = "The disk is full.";
+    Show({enter});
+    EXPECT_EQ(out.str(), std::string(notStoredText) + "The disk is full.\n");
+    EXPECT_FALSE(script.stands);
+}
+
 TEST_F(ScreenOptionsFormViewTest, AFailureGoesOnWithTheTerminalGivenBack) {
     form.fails = true;
     EXPECT_THROW(Show({enter}), std::runtime_error);

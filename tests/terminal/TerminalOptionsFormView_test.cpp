@@ -143,5 +143,18 @@ TEST_F(TerminalOptionsFormViewTest, TheEndOfTheInputAtTheTextLeavesTheField) {
     EXPECT_THAT(form.events, ElementsAre("activate", "cancel"));
 }
 
+TEST_F(TerminalOptionsFormViewTest, OptionsThatCouldNotBeStoredAreReportedByApplyAndOk) {
+    form.dirty = true;
+    form.storeProblem = "The disk is full.";
+    Show("a\no\n");
+    EXPECT_THAT(out.str(), AllOf(HasSubstr(std::string(notStoredText) + "The disk is full.\n"),
+                                 Not(HasSubstr("Stored."))));
+    out.str({});
+    form.closed = false;
+    form.storeProblem = "The disk is full.";
+    Show("o\n");
+    EXPECT_THAT(out.str(), HasSubstr(std::string(notStoredText) + "The disk is full.\n"));
+}
+
 }  // namespace
 }  // namespace wxbrg

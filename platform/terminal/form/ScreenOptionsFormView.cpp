@@ -42,13 +42,14 @@ void ScreenOptionsFormView::Obey(FormAct act, ScreenForm& keyboard, Screen& scre
         case FormAct::ok:
             return StepAside(screen, form, [&] {
                 form.Ok();
+                ShowStoreProblem(form.TakeStoreProblem());
             });
         case FormAct::cancel:
             return StepAside(screen, form, [&] {
                 form.Cancel();
             });
         case FormAct::apply:
-            return form.Apply();
+            return Apply(screen, form);
         case FormAct::help:
         case FormAct::helpOnFocus:
             return StepAside(screen, form, [&] {
@@ -56,10 +57,28 @@ void ScreenOptionsFormView::Obey(FormAct act, ScreenForm& keyboard, Screen& scre
                     form.Help();
                 else
                     form.HelpOn(keyboard.State().focus);
-                terminal_.Print("");
-                terminal_.Ask("Enter: back to the options ");
+                AskToComeBack();
             });
     }
+}
+
+void ScreenOptionsFormView::Apply(Screen& screen, OptionsFormEvents& form) {
+    form.Apply();
+    const std::string problem = form.TakeStoreProblem();
+    if (problem.empty()) return;
+    StepAside(screen, form, [&] {
+        ShowStoreProblem(problem);
+        AskToComeBack();
+    });
+}
+
+void ScreenOptionsFormView::ShowStoreProblem(const std::string& problem) {
+    if (!problem.empty()) terminal_.Print(std::string(notStoredText) + problem);
+}
+
+void ScreenOptionsFormView::AskToComeBack() {
+    terminal_.Print("");
+    terminal_.Ask("Enter: back to the options ");
 }
 
 void ScreenOptionsFormView::StepAside(Screen& screen, const OptionsFormEvents& form,

@@ -31,6 +31,10 @@ class ScreenOptionsFormView : public OptionsFormView {
     void Obey(FormAct act, ScreenForm& keyboard, Screen& screen, OptionsFormEvents& form);
     /// Does something that may show what is not on the screen, with the terminal given back for it.
     void StepAside(Screen& screen, const OptionsFormEvents& form, const std::function<void()>& act);
+    void Apply(Screen& screen, OptionsFormEvents& form);
+    /// Prints why the options could not be stored; nothing for an empty reason.
+    void ShowStoreProblem(const std::string& problem);
+    void AskToComeBack();
 
     Terminal terminal_;
     TerminalOptionsFormView lines_;

@@ -120,7 +120,7 @@ void TerminalOptionsFormView::ShowWhetherStored(const OptionsFormEvents& form) {
 void TerminalOptionsFormView::Obey(const std::string& command, OptionsFormEvents& form) {
     const std::string folded = UpperCase(command);
     if (folded.empty()) return List(form);
-    if (folded == "O") return form.Ok();
+    if (folded == "O") return Ok(form);
     if (folded == "C") return form.Cancel();
     if (folded == "A") return Apply(form);
     if (folded == "H" || folded == "?") return form.Help();
@@ -138,7 +138,18 @@ void TerminalOptionsFormView::Obey(const std::string& command, OptionsFormEvents
 void TerminalOptionsFormView::Apply(OptionsFormEvents& form) {
     const bool wasDirty = form.IsDirty();
     form.Apply();
-    terminal_.Print(wasDirty ? "Stored." : "Nothing has changed.");
+    if (!ShowStoreProblem(form)) terminal_.Print(wasDirty ? "Stored." : "Nothing has changed.");
+}
+
+void TerminalOptionsFormView::Ok(OptionsFormEvents& form) {
+    form.Ok();
+    ShowStoreProblem(form);
+}
+
+bool TerminalOptionsFormView::ShowStoreProblem(OptionsFormEvents& form) {
+    const std::string problem = form.TakeStoreProblem();
+    if (!problem.empty()) terminal_.Print(std::string(notStoredText) + problem);
+    return !problem.empty();
 }
 
 bool TerminalOptionsFormView::HelpOn(std::string_view typed, OptionsFormEvents& form) {

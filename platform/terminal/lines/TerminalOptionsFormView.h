@@ -33,6 +33,9 @@ class TerminalOptionsFormView : public OptionsFormView {
     void ShowWhetherStored(const OptionsFormEvents& form);
     void Obey(const std::string& command, OptionsFormEvents& form);
     void Apply(OptionsFormEvents& form);
+    void Ok(OptionsFormEvents& form);
+    /// Whether there was a problem to report.
+    bool ShowStoreProblem(OptionsFormEvents& form);
     /// False where `typed` is not the number of a control.
     bool HelpOn(std::string_view typed, OptionsFormEvents& form);
     void Operate(const FormControlRow& row, OptionsFormEvents& form);
