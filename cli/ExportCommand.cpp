@@ -16,6 +16,7 @@
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
 #include "cli/StoppingProgress.h"
+#include "cli/StoredOptions.h"
 #include "cli/UsageError.h"
 #include "platform/Path.h"
 #include "platform/scripted/OverlayProfileStore.h"
@@ -85,9 +86,9 @@ RunReport RunBatch(const RunRequest& request, FileSystem& files, aris::Automatio
     return report;
 }
 
-BatchParts PartsOf(const ExportArguments& given, const ToolEnvironment& environment,
+BatchParts PartsOf(const ExportArguments& given, const ToolEnvironment& environment, ProfileStore& store,
                    const StopRequests& stop) {
-    BatchParts own{OverlayProfileStore(environment.profileStore), OpenCodePage(given, environment),
+    BatchParts own{OverlayProfileStore(store), OpenCodePage(given, environment),
                    std::make_unique<StoppingProgress>(environment.progress(), stop),
                    ChosenProfile(given.rules, environment.fileSystem)};
     PutSettings(given, own.profileStore);
@@ -97,7 +98,8 @@ BatchParts PartsOf(const ExportArguments& given, const ToolEnvironment& environm
 int Export(const ExportArguments& given, const ToolEnvironment& environment, const StopRequests& stop) {
     const auto start = std::chrono::steady_clock::now();
     ExportFiles files(given, environment, stop);
-    BatchParts own = PartsOf(given, environment, stop);
+    StoredOptions stored(given.noStoredOptions, environment);
+    BatchParts own = PartsOf(given, environment, stored.Store(), stop);
     // What the boxes say here, those of the run say again.
     std::ostringstream ignored;
     const ProcessTypes inForce =

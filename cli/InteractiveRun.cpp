@@ -3,6 +3,7 @@
 #include "cli/OpenRepository.h"
 #include "cli/RunOutcome.h"
 #include "cli/RunPlatform.h"
+#include "cli/StoredOptions.h"
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
 #include "run/RunExport.h"
@@ -18,6 +19,11 @@ std::string RepositoryFolder(const ProfileStore& store) {
     return folder == nullptr ? std::string() : *folder;
 }
 
+/// Shows what is wrong with the stored options, if anything is.
+void ReportStore(const std::string& problem, const std::string& consequence, MessageBox& messageBox) {
+    if (!problem.empty()) messageBox.Report("wxbrg", consequence + problem);
+}
+
 }  // namespace
 
 int RunInteractively(const std::string& commandLine, const ToolEnvironment& environment) {
@@ -26,6 +32,7 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
     const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
     const std::unique_ptr<Progress> progress = environment.progress();
     const Dialogs dialogs = environment.dialogs();
+    ReportStore(StoreProblem(environment.profileStore), "The default options count: ", *dialogs.messageBox);
     const std::unique_ptr<aris::Automation> automation = environment.folderAutomation(
         RepositoryFolder(environment.profileStore), ProgressOf(*progress, "the database"));
     Platform platform = PlatformOf(environment, {.codePage = *codePage,
@@ -36,6 +43,8 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
                                                  .progress = *progress});
     const RunReport report = RunExport(request, platform, *automation);
     progress->Report({}, 0, 0);
+    ReportStore(environment.profileStore.TakeWriteProblem(),
+                "Not everything could be stored: ", *dialogs.messageBox);
     ReportProgramFailure(report, environment.err);
     ReportLostCharacters(*codePage, environment.err);
     return ExitStatusOf(report, false);

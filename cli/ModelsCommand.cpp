@@ -9,6 +9,7 @@
 #include "cli/ProcessTypes.h"
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
+#include "cli/StoredOptions.h"
 #include "support/Text.h"
 
 namespace wxbrg::cli {
@@ -34,10 +35,10 @@ std::string GroupPath(const OpenedRepository& repository, ARISModel model) {
 }  // namespace
 
 int RunModelsCommand(const ModelsArguments& given, const ToolEnvironment& environment) {
+    StoredOptions stored(given.noStoredOptions, environment);
     const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
     const ProcessTypes inForce = ProcessTypesInForce(
-        environment,
-        {environment.profileStore, *codePage, ChosenProfile(given.rules, environment.fileSystem)},
+        environment, {stored.Store(), *codePage, ChosenProfile(given.rules, environment.fileSystem)},
         environment.err);
     if (inForce.report.ending != RunEnding::normal) {
         ReportProgramFailure(inForce.report, environment.err);

@@ -1,10 +1,12 @@
 #include "cli/OptionsCommand.h"
 
 #include <ostream>
+#include <stdexcept>
 #include <string>
 
 #include "cli/ExitStatus.h"
 #include "cli/OptionSettings.h"
+#include "cli/StoredOptions.h"
 #include "options/StoredValues.h"
 
 namespace wxbrg::cli {
@@ -42,30 +44,35 @@ int Get(const std::string& name, const ToolEnvironment& environment) {
     return ExitStatus::normal;
 }
 
+/// Prints what did not happen, and why as far as the store knows.
+void ReportFailure(const std::string& what, const ToolEnvironment& environment) {
+    const std::string why = environment.profileStore.TakeWriteProblem();
+    environment.err << "wxbrg: " << what << (why.empty() ? "." : ": " + why) << '\n';
+}
+
 int Set(const OptionsArguments& given, const ToolEnvironment& environment) {
     const OptionSetting setting = ParseStoredValue(given.name, given.value);
     if (environment.profileStore.Write(programKey, setting.name, setting.value)) return ExitStatus::normal;
-    environment.err << "wxbrg: The option " << setting.name
-                    << " could not be stored; is the folder of the user's settings writable?\n";
+    ReportFailure("The option " + std::string(setting.name) + " could not be stored", environment);
     return ExitStatus::failure;
 }
 
 int Reset(const std::string& name, const ToolEnvironment& environment) {
     std::vector<std::string_view> names = StoredValueNames();
     if (!name.empty()) names = {StoredOption(name).valueName};
-    int status = ExitStatus::normal;
     for (const std::string_view each : names) {
         if (environment.profileStore.Remove(programKey, each)) continue;
-        environment.err << "wxbrg: The stored option " << each
-                        << " could not be taken away; is the folder of the user's settings writable?\n";
-        status = ExitStatus::failure;
+        ReportFailure("The stored option " + std::string(each) + " could not be taken away", environment);
+        return ExitStatus::failure;  // the others would fail alike
     }
-    return status;
+    return ExitStatus::normal;
 }
 
 }  // namespace
 
 int RunOptionsCommand(const OptionsArguments& given, const ToolEnvironment& environment) {
+    if (const std::string problem = StoreProblem(environment.profileStore); !problem.empty())
+        throw std::runtime_error(problem);
     switch (given.action) {
         case OptionsAction::get:
             return Get(given.name, environment);

@@ -10,6 +10,7 @@
 #include "cli/BatchPlatform.h"
 #include "cli/ExitStatus.h"
 #include "cli/RuleChoice.h"
+#include "cli/StoredOptions.h"
 #include "mapping/ProfileCheck.h"
 #include "mapping/ProfileDiff.h"
 #include "mapping/ProfileFile.h"
@@ -22,11 +23,18 @@ namespace {
 
 constexpr const char* builtInRules = "built-in rules";
 
+/// What a profile is read with.
+struct Reading {
+    ProfileStore& profileStore;  ///< says the language of the boxes
+    const ToolEnvironment& environment;
+};
+
 /// The profile that the arguments name, read as a run reads it.
-ProfileFile ReadFile(const RuleArguments& given, const ToolEnvironment& environment) {
+ProfileFile ReadFile(const RuleArguments& given, const Reading& reading) {
+    const ToolEnvironment& environment = reading.environment;
     const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
     NoProgress progress;
-    BatchPlatform platform(environment, {.profileStore = environment.profileStore,
+    BatchPlatform platform(environment, {.profileStore = reading.profileStore,
                                          .codePage = *codePage,
                                          .progress = progress,
                                          .boxes = environment.err,
@@ -45,18 +53,18 @@ void Print(const std::string& file, const ProfileFinding& finding, std::ostream&
 }
 
 /// The rules that the arguments name; nothing, after reporting why, where they cannot be taken from the file.
-std::optional<RuleTable> ReadRules(const RuleArguments& given, const ToolEnvironment& environment) {
-    const ProfileFile file = ReadFile(given, environment);
-    ProfileRules read = ReadProfileRules(file.text, environment.userLocale.DecimalSeparator());
-    for (const ProfileFinding& mistake : read.mistakes) Print(file.name, mistake, environment.err);
+std::optional<RuleTable> ReadRules(const RuleArguments& given, const Reading& reading) {
+    const ProfileFile file = ReadFile(given, reading);
+    ProfileRules read = ReadProfileRules(file.text, reading.environment.userLocale.DecimalSeparator());
+    for (const ProfileFinding& mistake : read.mistakes) Print(file.name, mistake, reading.environment.err);
     if (!read.mistakes.empty()) return std::nullopt;
     return std::move(read.rules);
 }
 
-int Print(const RuleArguments& given, const ToolEnvironment& environment) {
-    const std::optional<RuleTable> rules = ReadRules(given, environment);
+int Print(const RuleArguments& given, const Reading& reading) {
+    const std::optional<RuleTable> rules = ReadRules(given, reading);
     if (!rules) return ExitStatus::failure;
-    environment.out << ProfileText(*rules);
+    reading.environment.out << ProfileText(*rules);
     return ExitStatus::normal;
 }
 
@@ -64,43 +72,45 @@ std::string Counted(std::ptrdiff_t count, const std::string& word) {
     return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
 }
 
-int Check(const std::string& name, const ToolEnvironment& environment) {
-    const ProfileFile file = ReadFile(Named(name), environment);
+int Check(const std::string& name, const Reading& reading) {
+    const ProfileFile file = ReadFile(Named(name), reading);
     const std::vector<ProfileFinding> findings =
-        CheckProfile(file.text, environment.userLocale.DecimalSeparator());
-    for (const ProfileFinding& finding : findings) Print(name, finding, environment.out);
+        CheckProfile(file.text, reading.environment.userLocale.DecimalSeparator());
+    for (const ProfileFinding& finding : findings) Print(name, finding, reading.environment.out);
     const auto errors = std::count_if(findings.begin(), findings.end(), [](const ProfileFinding& finding) {
         return finding.severity == FindingSeverity::error;
     });
     const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
-    environment.out << name << ": " << Counted(errors, "error") << ", " << Counted(warnings, "warning")
-                    << '\n';
+    reading.environment.out << name << ": " << Counted(errors, "error") << ", "
+                            << Counted(warnings, "warning") << '\n';
     if (errors > 0) return ExitStatus::failure;
     return warnings > 0 ? ExitStatus::strict : ExitStatus::normal;
 }
 
-int Diff(const ProfileArguments& given, const ToolEnvironment& environment) {
+int Diff(const ProfileArguments& given, const Reading& reading) {
     const RuleArguments base = given.base ? Named(*given.base) : RuleArguments{{}, true};
-    const std::optional<RuleTable> before = ReadRules(base, environment);
-    const std::optional<RuleTable> now = ReadRules(Named(given.file), environment);
+    const std::optional<RuleTable> before = ReadRules(base, reading);
+    const std::optional<RuleTable> now = ReadRules(Named(given.file), reading);
     if (!before || !now) return ExitStatus::failure;
-    environment.out << "--- " << given.base.value_or(builtInRules) << "\n+++ " << given.file << '\n'
-                    << DifferenceText(DifferencesOf(*before, *now), before->size());
+    reading.environment.out << "--- " << given.base.value_or(builtInRules) << "\n+++ " << given.file << '\n'
+                            << DifferenceText(DifferencesOf(*before, *now), before->size());
     return ExitStatus::normal;
 }
 
 }  // namespace
 
 int RunProfileCommand(const ProfileArguments& given, const ToolEnvironment& environment) {
+    StoredOptions stored(given.noStoredOptions, environment);
+    const Reading reading{stored.Store(), environment};
     switch (given.operation) {
         case ProfileOperation::check:
-            return Check(given.file, environment);
+            return Check(given.file, reading);
         case ProfileOperation::diff:
-            return Diff(given, environment);
+            return Diff(given, reading);
         case ProfileOperation::print:
             break;
     }
-    return Print(given.rules, environment);
+    return Print(given.rules, reading);
 }
 
 }  // namespace wxbrg::cli

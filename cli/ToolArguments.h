@@ -33,6 +33,7 @@ struct ExportArguments {
     std::vector<std::string> settings;      ///< "Name=Value" each
     std::optional<std::string> log;         ///< nothing: beside the output; "none": no log
     bool noClobber = false;                 ///< an output or log that exists is not replaced
+    bool noStoredOptions = false;           ///< what is stored does not count
     bool strict = false;
     bool quiet = false;
 };
@@ -41,6 +42,7 @@ struct ModelsArguments {
     RepositoryArguments repository;
     RuleArguments rules;
     bool all = false;
+    bool noStoredOptions = false;  ///< what is stored does not count
 };
 
 enum class OptionsAction { list, get, set, reset };
@@ -58,6 +60,7 @@ struct ProfileArguments {
     RuleArguments rules;              ///< of `print`
     std::string file;                 ///< of `check` and `diff`
     std::optional<std::string> base;  ///< of `diff`; nothing: the built-in rules
+    bool noStoredOptions = false;     ///< what is stored does not count
 };
 
 struct ReplayArguments {

@@ -47,6 +47,11 @@ void AddRules(CLI::App& app, const char* builtIn, RuleArguments& rules) {
         ->excludes(flag);
 }
 
+void AddNoStoredOptions(CLI::App& app, bool& given) {
+    app.add_flag("--no-stored-options", given,
+                 "Pass over the stored options of user and machine, the language included");
+}
+
 void AddExport(CLI::App& app, ToolArguments& arguments) {
     ExportArguments& given = arguments.exportRun;
     CLI::App& command = *AddSubcommand(app, "export", "Export models, with no questions asked",
@@ -80,6 +85,7 @@ void AddExport(CLI::App& app, ToolArguments& arguments) {
                     "Export option for this run, such as ConvertNames=0; may be given several times")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
+    AddNoStoredOptions(command, given.noStoredOptions);
     command.add_flag("--strict", given.strict, "End with exit status 3 where there was a warning");
     command.add_flag("--quiet", given.quiet, "Print no summary");
 }
@@ -91,6 +97,7 @@ void AddModels(CLI::App& app, ToolArguments& arguments) {
     AddRepository(command, arguments.models.repository);
     AddRules(command, "--default-rules", arguments.models.rules);
     command.add_flag("--all", arguments.models.all, "List the models of all types");
+    AddNoStoredOptions(command, arguments.models.noStoredOptions);
 }
 
 /// Adds a word behind a subcommand; given, it sets `field` to `value`.
@@ -118,6 +125,7 @@ void AddProfile(CLI::App& app, ToolArguments& arguments) {
                                ProfileOperation::diff, given.operation);
     diff->add_option("FILE", given.file, "Mapping profile that changes something")->required();
     diff->add_option("BASE", given.base, "Mapping profile to compare with; the built-in rules if not given");
+    for (CLI::App* each : {print, check, diff}) AddNoStoredOptions(*each, given.noStoredOptions);
 }
 
 void AddOptions(CLI::App& app, ToolArguments& arguments) {

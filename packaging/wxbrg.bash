@@ -6,12 +6,12 @@ _wxbrg_words() {
     '') echo 'export models profile options replay --help -h --version' ;;
     export)
         echo '--locale --types --output -o --log --no-clobber --model --all --profile --default-rules --user' \
-            '--language --code-page --set --strict --quiet --help -h'
+            '--language --code-page --set --no-stored-options --strict --quiet --help -h'
         ;;
-    models) echo '--locale --types --all --profile --default-rules --help -h' ;;
+    models) echo '--locale --types --all --profile --default-rules --no-stored-options --help -h' ;;
     profile) echo 'print check diff --help -h' ;;
-    'profile print') echo '--default --profile --help -h' ;;
-    'profile '*) echo '--help -h' ;;
+    'profile print') echo '--default --profile --no-stored-options --help -h' ;;
+    'profile '*) echo '--no-stored-options --help -h' ;;
     options) echo 'list get set reset --help -h' ;;
     replay) echo '--out --help -h' ;;
     'options '*) echo '--help -h' ;;

@@ -107,5 +107,35 @@ TEST(OptionsCommand, AStoreThatCannotBeWrittenIsAFailure) {
     EXPECT_THAT(system.err.str(), HasSubstr("Language could not be taken away"));
 }
 
+/// A store that names its problems.
+class AilingStore : public ReadOnlyStore {
+  public:
+    std::vector<std::string> ReadProblems() const override { return readProblems; }
+    std::string TakeWriteProblem() override { return "The disk is full."; }
+
+    std::vector<std::string> readProblems;
+};
+
+TEST(OptionsCommand, WhyTheStoreCannotBeWrittenIsSaid) {
+    AilingStore store;
+    TestToolEnvironment system(store);
+    EXPECT_EQ(RunOptionsCommand({OptionsAction::set, "ConvertNames", "0"}, system.environment), 1);
+    EXPECT_EQ(system.err.str(), "wxbrg: The option ConvertNames could not be stored: The disk is full.\n");
+}
+
+TEST(OptionsCommand, AStoreThatCannotBeReadEndsItBeforeItDoesAnything) {
+    AilingStore store;
+    store.readProblems = {"The one.", "The other."};
+    TestToolEnvironment system(store);
+    for (const OptionsAction action :
+         {OptionsAction::list, OptionsAction::get, OptionsAction::set, OptionsAction::reset})
+        EXPECT_THAT(
+            [&] {
+                RunOptionsCommand({action, "ConvertNames", "0"}, system.environment);
+            },
+            testing::ThrowsMessage<std::runtime_error>("The one.\nThe other."));
+    EXPECT_EQ(system.out.str(), "");
+}
+
 }  // namespace
 }  // namespace wxbrg::cli

@@ -102,11 +102,11 @@ TEST_F(ToolProgram, OptionsOfUnknownNamesAreWrongUsageThatListsTheNames) {
 }
 
 TEST_F(ToolProgram, AStoreThatCannotBeWrittenIsToldAndAFailure) {
-    folder.Write("file", "");
-    environment["XDG_CONFIG_HOME"] = (folder / "file").string();
+    std::filesystem::create_directories(folder / "settings/wxbrg/registry.reg.lock");
     const ProcessResult result = Run({"options", "set", "ConvertNames", "0"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, HasSubstr("could not be stored"));
+    EXPECT_THAT(result.err, AllOf(HasSubstr("ConvertNames could not be stored: "),
+                                  HasSubstr("registry.reg.lock cannot be opened as a lock file")));
 }
 
 TEST_F(ToolProgram, AnOutputThatCannotBeWrittenIsAFailure) {

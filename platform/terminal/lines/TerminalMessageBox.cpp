@@ -21,4 +21,9 @@ BoxAnswer TerminalMessageBox::Show(std::string_view title, std::string_view text
     }
 }
 
+void TerminalMessageBox::Report(std::string_view title, std::string_view text) {
+    terminal_.Print("");
+    terminal_.Print(std::string(title).append(": ").append(text));
+}
+
 }  // namespace wxbrg

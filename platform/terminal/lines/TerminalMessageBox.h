@@ -11,6 +11,7 @@ class TerminalMessageBox : public MessageBox {
   public:
     TerminalMessageBox(std::istream& in, std::ostream& out) : terminal_(in, out) {}
     BoxAnswer Show(std::string_view title, std::string_view text, std::int32_t buttons) override;
+    void Report(std::string_view title, std::string_view text) override;
 
   private:
     Terminal terminal_;
