@@ -38,7 +38,7 @@ class StoredOptionsProgram : public ProgramTest {
 
 constexpr const char* namesStay =
     "REGEDIT4\n[HKEY_CURRENT_USER\\Software\\Quenby\\Tarnlight Workflow Aris Bridge\\CurrentVersion]\n"
-    "\"ConvertNames\"=dword:00000000\n\"Language\"=\"XXX\"\n";
+    "\"ConvertNames\"=dword:00000000\n\"Language\"=\"ZZZ\"\n";
 
 TEST_F(StoredOptionsProgram, AStoreThatCannotBeReadEndsEachCommandBeforeItDoesAnything) {
     BlockStore();
