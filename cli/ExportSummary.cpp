@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "support/TerminalText.h"
+
 namespace wxbrg::cli {
 
 namespace {
@@ -34,8 +36,8 @@ void WriteUnknownTypes(const std::vector<aris::UnknownType>& types, std::ostream
     if (types.empty()) return;
     out << "Unknown types:          " << types.size() << '\n';
     for (const aris::UnknownType& type : types)
-        out << "  " << KindName(type.kind) << " type " << type.apiName << ", taken as number " << type.number
-            << ": " << Counted(type.occurrences, "time", "times") << '\n';
+        out << "  " << KindName(type.kind) << " type " << PrintableField(type.apiName) << ", taken as number "
+            << type.number << ": " << Counted(type.occurrences, "time", "times") << '\n';
 }
 
 void WriteDangling(const aris::DanglingReferences& dangling, std::ostream& out) {
@@ -62,7 +64,7 @@ std::string Seconds(std::chrono::duration<double> time) {
 void WriteSummary(const ExportSummary& summary, std::ostream& out) {
     const RunReport& report = summary.report;
     const SeverityCounts& notes = report.notes;
-    out << "Definition file:        " << summary.output << '\n'
+    out << "Definition file:        " << Printable(summary.output) << '\n'
         << "Models selected:        " << report.modelsSelected << '\n'
         << "Processes:              " << report.processes << '\n'
         << "Objects written:        " << report.objectsWritten << '\n'

@@ -14,16 +14,13 @@ namespace {
 /// So many models an error lists; `wxbrg models` lists all.
 constexpr std::size_t listedModels = 50;
 
-std::string Listed(const std::vector<ARISModel>& models, std::int32_t locale) {
-    std::string list;
+std::vector<std::string> Listed(const std::vector<ARISModel>& models, std::int32_t locale) {
+    std::vector<std::string> list;
     for (std::size_t i = 0; i < std::min(models.size(), listedModels); ++i)
-        list.append("\n  ")
-            .append(models[i]->Guid())
-            .append("  ")
-            .append(RemoveLineBreaks(models[i]->Name(locale)));
+        list.push_back(std::string(models[i]->Guid()).append("  ").append(models[i]->Name(locale)));
     if (models.size() > listedModels)
-        list += "\n  and " + std::to_string(models.size() - listedModels) +
-                " more: \"wxbrg models\" lists them all";
+        list.push_back("and " + std::to_string(models.size() - listedModels) +
+                       " more: \"wxbrg models\" lists them all");
     return list;
 }
 
@@ -44,9 +41,9 @@ class Chooser {
     ARISModel Only() const {
         RequireSome();
         if (processes_.size() == 1) return processes_.front();
-        throw UsageError(
-            "There are " + std::to_string(processes_.size()) +
-            " models to choose from; name some with --model, or give --all:" + Listed(processes_, locale_));
+        throw UsageError("There are " + std::to_string(processes_.size()) +
+                             " models to choose from; name some with --model, or give --all:",
+                         Listed(processes_, locale_));
     }
 
     ARISModel Named(const std::string& text) const {
@@ -60,17 +57,19 @@ class Chooser {
         if (found.empty()) found = Where(processes_, hasName);
         if (found.size() == 1) return found.front();
         if (!found.empty())
-            throw UsageError("Several models have the name " + InQuotes(text) +
-                             "; give the Guid of one with --model:" + Listed(found, locale_));
+            throw UsageError(
+                "Several models have the name " + InQuotes(text) + "; give the Guid of one with --model:",
+                Listed(found, locale_));
         std::vector<ARISModel> other = Where(others_, hasGuid);
         if (other.empty()) other = Where(others_, hasName);
         if (!other.empty())
-            throw UsageError("The model " + InQuotes(text) + " is of the type " +
-                             InQuotes(other.front()->Type()) + " (" +
-                             std::to_string(other.front()->TypeNum()) +
-                             "), which is no process type. There are:" + Listed(processes_, locale_));
-        throw UsageError("There is no model with the name or Guid " + InQuotes(text) +
-                         " in this language. There are:" + Listed(processes_, locale_));
+            throw UsageError(
+                "The model " + InQuotes(text) + " is of the type " + InQuotes(other.front()->Type()) + " (" +
+                    std::to_string(other.front()->TypeNum()) + "), which is no process type. There are:",
+                Listed(processes_, locale_));
+        throw UsageError(
+            "There is no model with the name or Guid " + InQuotes(text) + " in this language. There are:",
+            Listed(processes_, locale_));
     }
 
   private:

@@ -1,6 +1,5 @@
 #include "cli/ModelsCommand.h"
 
-#include <algorithm>
 #include <ostream>
 #include <string>
 
@@ -10,18 +9,11 @@
 #include "cli/RuleChoice.h"
 #include "cli/RunOutcome.h"
 #include "cli/StoredOptions.h"
-#include "support/Text.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
 namespace {
-
-/// A text as one field of a line.
-std::string Field(std::string_view text) {
-    std::string field = RemoveLineBreaks(text);
-    std::replace(field.begin(), field.end(), '\t', ' ');
-    return field;
-}
 
 std::string GroupPath(const OpenedRepository& repository, ARISModel model) {
     std::string path;
@@ -49,9 +41,10 @@ int RunModelsCommand(const ModelsArguments& given, const ToolEnvironment& enviro
     progress->Report({}, 0, 0);
     for (const ARISModel& model : repository.catalogue->Models()) {
         if (!given.all && !IsProcessTypeIn(inForce, model->TypeNum())) continue;
-        environment.out << Field(model->Guid()) << '\t' << model->TypeNum() << '\t' << Field(model->Type())
-                        << '\t' << Field(GroupPath(repository, model)) << '\t'
-                        << Field(model->Name(repository.locale)) << '\n';
+        environment.out << PrintableField(model->Guid()) << '\t' << model->TypeNum() << '\t'
+                        << PrintableField(model->Type()) << '\t'
+                        << PrintableField(GroupPath(repository, model)) << '\t'
+                        << PrintableField(model->Name(repository.locale)) << '\n';
     }
     return ExitStatus::normal;
 }

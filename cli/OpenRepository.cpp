@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "cli/UsageError.h"
 
@@ -37,12 +38,10 @@ std::int32_t ChooseLocale(const aris::Catalogue& catalogue, std::optional<std::i
         return locale.number == *wanted;
     };
     if (std::any_of(locales.begin(), locales.end(), isWanted)) return *wanted;
-    std::string message = "The export holds no language " + std::to_string(*wanted) + ". It holds:";
-    for (const aris::Locale& locale : locales) {
-        message += "\n  " + std::to_string(locale.number);
-        if (!locale.name.empty()) message += "  " + locale.name;
-    }
-    throw UsageError(message);
+    std::vector<std::string> held;
+    for (const aris::Locale& locale : locales)
+        held.push_back(std::to_string(locale.number) + (locale.name.empty() ? "" : "  " + locale.name));
+    throw UsageError("The export holds no language " + std::to_string(*wanted) + ". It holds:", held);
 }
 
 }  // namespace wxbrg::cli

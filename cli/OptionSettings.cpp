@@ -24,10 +24,9 @@ std::vector<std::string_view> NamesOf(std::span<const ExportOption> options) {
     return names;
 }
 
-std::string Listed(std::string message, std::span<const ExportOption> options) {
-    message += " The names are:";
-    for (const std::string_view name : NamesOf(options)) message.append("\n  ").append(name);
-    return message;
+UsageError WithNames(const std::string& message, std::span<const ExportOption> options) {
+    const std::vector<std::string_view> names = NamesOf(options);
+    return UsageError(message + " The names are:", {names.begin(), names.end()});
 }
 
 /// A number that an option takes. Throws `UsageError` for any other text.
@@ -60,12 +59,12 @@ const ExportOption* FindOption(std::string_view name) {
 OptionSetting ParseSetting(std::string_view setting) {
     const std::size_t equals = setting.find('=');
     if (equals == std::string_view::npos)
-        throw UsageError(
-            Listed("--set takes Name=Value, and " + InQuotes(setting) + " holds no \"=\".", exportOptions));
+        throw WithNames("--set takes Name=Value, and " + InQuotes(setting) + " holds no \"=\".",
+                        exportOptions);
     const std::string_view name = Trim(setting.substr(0, equals));
     const ExportOption* option = FindOption(name);
     if (option == nullptr || !isExportOption(*option))
-        throw UsageError(Listed("There is no export option " + InQuotes(name) + ".", exportOptions));
+        throw WithNames("There is no export option " + InQuotes(name) + ".", exportOptions);
     return {option->valueName, NumberFor(*option, setting.substr(equals + 1))};
 }
 
@@ -82,7 +81,7 @@ std::vector<std::string_view> StoredValueNames() {
 const ExportOption& StoredOption(std::string_view name) {
     const ExportOption* const option = FindOption(name);
     if (option == nullptr)
-        throw UsageError(Listed("There is no stored option " + InQuotes(name) + ".", storedOptions));
+        throw WithNames("There is no stored option " + InQuotes(name) + ".", storedOptions);
     return *option;
 }
 

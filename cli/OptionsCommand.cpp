@@ -8,6 +8,7 @@
 #include "cli/OptionSettings.h"
 #include "cli/StoredOptions.h"
 #include "options/StoredValues.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -34,13 +35,14 @@ ValueAndOrigin InForce(const ProfileStore& store, const ExportOption& option) {
 int List(const ToolEnvironment& environment) {
     for (const ExportOption& option : storedOptions) {
         const ValueAndOrigin found = InForce(environment.profileStore, option);
-        environment.out << option.valueName << '\t' << TextOf(found.value) << '\t' << found.origin << '\n';
+        environment.out << option.valueName << '\t' << PrintableField(TextOf(found.value)) << '\t'
+                        << found.origin << '\n';
     }
     return ExitStatus::normal;
 }
 
 int Get(const std::string& name, const ToolEnvironment& environment) {
-    environment.out << TextOf(InForce(environment.profileStore, StoredOption(name)).value) << '\n';
+    environment.out << Printable(TextOf(InForce(environment.profileStore, StoredOption(name)).value)) << '\n';
     return ExitStatus::normal;
 }
 

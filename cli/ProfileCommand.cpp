@@ -16,6 +16,7 @@
 #include "mapping/ProfileFile.h"
 #include "mapping/ProfileText.h"
 #include "platform/scripted/NoProgress.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -48,8 +49,8 @@ RuleArguments Named(const std::string& file) {
 
 void Print(const std::string& file, const ProfileFinding& finding, std::ostream& out) {
     const char* const severity = finding.severity == FindingSeverity::error ? "error" : "warning";
-    out << file << ':' << finding.place.line << ':' << finding.place.column << ": " << severity << ": "
-        << finding.text << '\n';
+    out << Printable(file) << ':' << finding.place.line << ':' << finding.place.column << ": " << severity
+        << ": " << Printable(finding.text) << '\n';
 }
 
 /// The rules that the arguments name; nothing, after reporting why, where they cannot be taken from the file.
@@ -81,7 +82,7 @@ int Check(const std::string& name, const Reading& reading) {
         return finding.severity == FindingSeverity::error;
     });
     const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
-    reading.environment.out << name << ": " << Counted(errors, "error") << ", "
+    reading.environment.out << Printable(name) << ": " << Counted(errors, "error") << ", "
                             << Counted(warnings, "warning") << '\n';
     if (errors > 0) return ExitStatus::failure;
     return warnings > 0 ? ExitStatus::strict : ExitStatus::normal;
@@ -92,7 +93,8 @@ int Diff(const ProfileArguments& given, const Reading& reading) {
     const std::optional<RuleTable> before = ReadRules(base, reading);
     const std::optional<RuleTable> now = ReadRules(Named(given.file), reading);
     if (!before || !now) return ExitStatus::failure;
-    reading.environment.out << "--- " << given.base.value_or(builtInRules) << "\n+++ " << given.file << '\n'
+    reading.environment.out << "--- " << Printable(given.base.value_or(builtInRules)) << "\n+++ "
+                            << Printable(given.file) << '\n'
                             << DifferenceText(DifferencesOf(*before, *now), before->size());
     return ExitStatus::normal;
 }

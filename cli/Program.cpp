@@ -14,6 +14,7 @@
 #include "cli/ReplayCommand.h"
 #include "cli/ToolParser.h"
 #include "cli/UsageError.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -68,7 +69,7 @@ int RunProgram(const std::vector<std::string>& arguments, const ToolEnvironment&
         environment.err << "wxbrg: " << error.what() << '\n';
         status = ExitStatus::usage;
     } catch (const std::exception& error) {
-        environment.err << "wxbrg: " << error.what() << '\n';
+        environment.err << "wxbrg: " << Printable(error.what()) << '\n';
     }
     if (environment.out.flush()) return status;
     environment.err << "wxbrg: The standard output could not be written.\n";

@@ -6,6 +6,7 @@
 
 #include "cli/ExitStatus.h"
 #include "run/clsExceptionHandler.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -28,7 +29,7 @@ int ExitStatusOf(const RunReport& report, bool strict) {
 }
 
 void ReportProgramFailure(const RunReport& report, std::ostream& err) {
-    if (report.ending == RunEnding::error) err << "wxbrg: " << report.error << '\n';
+    if (report.ending == RunEnding::error) err << "wxbrg: " << Printable(report.error) << '\n';
 }
 
 void ReportLostCharacters(const CodePage& codePage, std::ostream& err) {

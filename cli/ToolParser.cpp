@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "cli/ExitStatus.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -165,7 +166,7 @@ std::unique_ptr<CLI::App> MakeGrammar(ToolArguments& arguments) {
     app->allow_windows_style_options(false);
     app->require_subcommand(1);
     app->failure_message([](const CLI::App*, const CLI::Error& error) {
-        return std::string("wxbrg: ") + error.what() + "\nTry --help behind the subcommand for its usage.\n";
+        return "wxbrg: " + Printable(error.what()) + "\nTry --help behind the subcommand for its usage.\n";
     });
     AddExport(*app, arguments);
     AddModels(*app, arguments);

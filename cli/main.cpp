@@ -5,6 +5,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/Program.h"
 #include "cli/System.h"
+#include "support/TerminalText.h"
 
 int main(int argc, char** argv) {
     using namespace wxbrg;
@@ -12,7 +13,7 @@ int main(int argc, char** argv) {
         const std::unique_ptr<cli::System> system = cli::OpenSystem();
         return cli::RunProgram(system->Arguments(argc, argv), system->Environment());
     } catch (const std::exception& error) {
-        std::cerr << "wxbrg: " << error.what() << '\n';
+        std::cerr << "wxbrg: " << Printable(error.what()) << '\n';
         return cli::ExitStatus::failure;
     }
 }

@@ -16,6 +16,7 @@
 #include "mapping/ProfileNames.h"
 #include "mapping/ProfileTokenizer.h"
 #include "mapping/RuleTable.h"
+#include "support/TerminalText.h"
 #include "support/Text.h"
 
 namespace wxbrg {

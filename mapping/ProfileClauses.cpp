@@ -10,6 +10,7 @@
 
 #include "mapping/ProfileGrammar.h"
 #include "support/Numbers.h"
+#include "support/TerminalText.h"
 #include "support/Text.h"
 
 namespace wxbrg {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "mapping/ProfileText.h"
+#include "support/TerminalText.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -81,9 +82,9 @@ std::string DifferenceText(const std::vector<RuleDifference>& differences, std::
     std::string text;
     std::size_t touched = 0;
     for (const RuleDifference& difference : differences) {
-        text += difference.name + ": " + std::string(WordOf(difference.change)) + "\n";
-        for (const std::string& entry : difference.before) text += "  - " + entry + "\n";
-        for (const std::string& entry : difference.now) text += "  + " + entry + "\n";
+        text += Printable(difference.name) + ": " + std::string(WordOf(difference.change)) + "\n";
+        for (const std::string& entry : difference.before) text += "  - " + Printable(entry) + "\n";
+        for (const std::string& entry : difference.now) text += "  + " + Printable(entry) + "\n";
         if (difference.change != RuleChange::added) ++touched;
     }
     return text + "Rules: " + CountText(differences, RuleChange::changed) + ", " +

@@ -189,14 +189,6 @@ std::string ShortInQuotes(std::string_view text) {
     return InQuotes(std::string(front) + (front.size() < text.size() ? "..." : ""));
 }
 
-std::string PrintableInQuotes(std::string_view text) {
-    std::u32string characters = ToCharacters(text);
-    for (char32_t& character : characters)
-        if (character < U' ' || (character >= U'\x7F' && character < U'\xA0'))
-            character = replacementCharacter;
-    return InQuotes(FromCharacters(characters));
-}
-
 std::string CollapseBlanks(std::string_view text) {
     std::string result;
     result.reserve(text.size());

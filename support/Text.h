@@ -33,9 +33,6 @@ std::string Replace(std::string_view text, std::string_view what, std::string_vi
 std::string InQuotes(std::string_view text);
 /// Likewise its first 60 characters, and "..." for more: for a text out of a file.
 std::string ShortInQuotes(std::string_view text);
-/// Likewise with U+FFFD for each control character, which a terminal might obey, and each byte that is no
-/// UTF-8.
-std::string PrintableInQuotes(std::string_view text);
 
 /// Every run of blanks becomes one blank.
 std::string CollapseBlanks(std::string_view text);

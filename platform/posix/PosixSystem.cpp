@@ -34,6 +34,7 @@
 #include "platform/terminal/lines/TerminalHelpViewer.h"
 #include "platform/terminal/lines/TerminalMessageBox.h"
 #include "platform/terminal/lines/TerminalProgress.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -64,7 +65,8 @@ Dialogs MakeDialogs(const ProgramLocation& program, const ProfileStore& profileS
     std::variant<Dialogs, NoDesktop> opened =
         OpenDesktop(program.directory, {StoredLanguage(profileStore), program.directory});
     if (auto* const dialogs = std::get_if<Dialogs>(&opened)) return std::move(*dialogs);
-    std::cerr << "wxbrg: " << std::get<NoDesktop>(opened).reason << "; the terminal is used instead.\n";
+    std::cerr << "wxbrg: " << Printable(std::get<NoDesktop>(opened).reason)
+              << "; the terminal is used instead.\n";
     return MakeTerminalDialogs(program.directory);
 }
 

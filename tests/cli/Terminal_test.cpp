@@ -30,6 +30,15 @@ TEST(Terminal, ToldTextsHaveTheStreamsOwnLineEnds) {
     EXPECT_EQ(out.str(), "a\nb\n");
 }
 
+TEST(Terminal, ShowsNothingThatItWouldObey) {
+    std::istringstream in("\n");
+    std::ostringstream out;
+    Terminal terminal(in, out);
+    terminal.Print("a\x1B[2J\nb\r\nc");
+    terminal.Ask("\u009B? ");
+    EXPECT_EQ(out.str(), "a\\u{1B}[2J\\u{A}b\nc\n\\u{9B}? ");
+}
+
 TEST(Terminal, YesOrNoIsAskedUntilItIsAnswered) {
     std::istringstream in("perhaps\n\nYES\nn\n");
     std::ostringstream out;
@@ -109,6 +118,13 @@ TEST_F(TerminalProgressTest, StageAndShareAreShownOnOneLine) {
     Pass(std::chrono::seconds(1));
     progress.Report("reading", 3, 3);
     EXPECT_THAT(out.str(), testing::EndsWith("\r\033[Kreading: 100 %"));
+}
+
+TEST_F(TerminalProgressTest, AStageStaysOnItsLine) {
+    TerminalProgress progress = Make();
+    Pass(std::chrono::seconds(1));
+    progress.Report("reading \x1B[2J\n", 0, 0);
+    EXPECT_EQ(out.str(), "\r\033[Kreading \\u{1B}[2J\\u{A}");
 }
 
 TEST_F(TerminalProgressTest, WithoutATotalTheAmountIsShown) {

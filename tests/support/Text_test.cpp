@@ -116,12 +116,6 @@ TEST(ShortInQuotes, ShowsSixtyCharactersAtMost) {
     EXPECT_EQ(ShortInQuotes(sixty + "y"), "\"" + sixty + "...\"");
 }
 
-TEST(PrintableInQuotes, ShowsNothingThatATerminalWouldObey) {
-    EXPECT_EQ(PrintableInQuotes("a\x1B[2J\x7F\u0080\u009F\u00A0ü\n"),
-              "\"a\uFFFD[2J\uFFFD\uFFFD\uFFFD\u00A0ü\uFFFD\"");
-    EXPECT_EQ(PrintableInQuotes("a\xFF"), "\"a\uFFFD\"");
-}
-
 TEST(CollapseBlanks, MakesEachRunOneBlank) {
     EXPECT_EQ(CollapseBlanks("  a   b c  "), " a b c ");
     EXPECT_EQ(CollapseBlanks("    "), " ");

@@ -25,6 +25,12 @@ class ScreenFormLayout : public testing::Test {
     FakeOptionsForm form;
 };
 
+TEST(ScreenPicture, ShowsNothingThatATerminalWouldObey) {
+    ScreenPicture picture;
+    picture.Put({0, 0}, U"a\x1B[2J\u009B\u202Eb", ScreenStyle::field);
+    EXPECT_EQ(picture.spans.at(0).text, U"a\uFFFD[2J\uFFFD\uFFFDb");
+}
+
 TEST_F(ScreenFormLayout, ShowsTitlePagesControlsButtonsAndKeys) {
     form.boxChecked = true;
     form.text = "12";

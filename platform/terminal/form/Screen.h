@@ -1,10 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "support/TerminalText.h"
 
 namespace wxbrg {
 
@@ -39,8 +43,17 @@ struct ScreenPicture {
     std::vector<ScreenSpan> spans;
     std::optional<ScreenPoint> cursor;  ///< nothing: it is hidden
 
+    /// A character that is not printable shows as U+FFFD: on a screen of cells it keeps its one cell.
     void Put(ScreenPoint at, std::u32string_view text, ScreenStyle style, bool accessKey = false) {
-        if (!text.empty()) spans.push_back({at, std::u32string(text), style, accessKey});
+        if (text.empty()) return;
+        std::u32string shown(text);
+        std::replace_if(
+            shown.begin(), shown.end(),
+            [](char32_t character) {
+                return !IsPrintable(character);
+            },
+            U'\uFFFD');
+        spans.push_back({at, std::move(shown), style, accessKey});
     }
 };
 

@@ -3,16 +3,21 @@
 #include <istream>
 #include <ostream>
 
+#include "support/TerminalText.h"
 #include "support/Text.h"
 
 namespace wxbrg {
 
 void Terminal::Print(std::string_view text) {
-    out_ << Replace(text, "\r\n", "\n") << '\n';
+    out_ << PrintableLines(text, "\r\n") << '\n';
+}
+
+void Terminal::Beep() {
+    out_ << '\a';
 }
 
 std::optional<std::string> Terminal::Ask(std::string_view prompt) {
-    out_ << prompt << std::flush;
+    out_ << Printable(prompt) << std::flush;
     std::string line;
     if (!std::getline(in_, line)) {
         out_ << '\n';

@@ -13,8 +13,12 @@ class Terminal {
   public:
     Terminal(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
 
-    /// Prints a text and a line end; CR LF inside it becomes the stream's own line end.
+    /// Prints a text and a line end; CR LF inside it becomes the stream's own line end. What a terminal would
+    /// obey is shown by its number, here and in prompts.
     void Print(std::string_view text);
+
+    /// Makes the terminal sound.
+    void Beep();
 
     /// Prints a prompt and reads the line behind it, without its end and without blanks around it. Nothing
     /// when the input has ended.

@@ -6,6 +6,7 @@
 
 #include "platform/HelpBook.h"
 #include "platform/Path.h"
+#include "support/TerminalText.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -61,12 +62,13 @@ void TerminalHelpViewer::ShowPage(std::string_view helpFile, std::int32_t number
     const auto book = HelpBook::Read(FileInFolder(folder_, helpFile));
     out_ << '\n';
     if (!book)
-        out_ << "There is no help: the file " << helpFile << " cannot be read in the folder " << folder_
-             << ".\n";
+        out_ << "There is no help: the file " << Printable(helpFile) << " cannot be read in the folder "
+             << Printable(folder_) << ".\n";
     else if (const HelpPage* page = book->Page(number))
-        out_ << PlainText(page->text);
+        out_ << PrintableLines(PlainText(page->text), "\n");
     else
-        out_ << "There is no help on this: the file " << helpFile << " lacks the page " << number << ".\n";
+        out_ << "There is no help on this: the file " << Printable(helpFile) << " lacks the page " << number
+             << ".\n";
     out_ << std::flush;
 }
 

@@ -172,7 +172,9 @@ void TerminalOptionsFormView::TypeOver(const FormControlRow& row, const std::str
     for (std::size_t i = CharacterCount(row.text); i > 0; --i) form.Type(backspaceKey);
     bool dropped = false;
     for (const char32_t key : ToCharacters(text)) dropped |= !form.Type(key);
-    if (dropped) terminal_.Print("\aNot every key was taken.");
+    if (!dropped) return;
+    terminal_.Beep();
+    terminal_.Print("Not every key was taken.");
 }
 
 }  // namespace wxbrg

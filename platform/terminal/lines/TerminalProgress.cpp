@@ -3,6 +3,8 @@
 #include <ostream>
 #include <utility>
 
+#include "support/TerminalText.h"
+
 namespace wxbrg {
 
 namespace {
@@ -37,7 +39,7 @@ void TerminalProgress::Report(std::string_view stage, std::uint64_t done, std::u
     if (time < next_) return;
     next_ = time + interval;
     shown_ = true;
-    out_ << clearLine << stage << Amount(done, total) << std::flush;
+    out_ << clearLine << Printable(stage) << Amount(done, total) << std::flush;
 }
 
 void TerminalProgress::Clear() {
