@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/BatchPlatform.h"
+#include "cli/CauseText.h"
 #include "cli/ExitStatus.h"
 #include "cli/ExportFiles.h"
 #include "cli/ExportSummary.h"
@@ -112,6 +113,7 @@ int Export(const ExportArguments& given, const ToolEnvironment& environment, con
     const RunReport report = RunBatch(request, files.Files(), *automation, own, environment);
 
     ReportProgramFailure(report, environment.err);
+    ReportCause(report, environment.err);
     const bool complete = files.Finish(report, environment.err);
     if (!complete || given.quiet)
         ReportLostCharacters(*own.codePage, environment.err);

@@ -15,7 +15,7 @@ auto Naming(const std::string& name, const Operation& operation) {
     try {
         return operation();
     } catch (const Failure& failure) {
-        throw Failure(failure.Number, name);
+        throw Failure(failure.Number, name).Because(failure.Cause);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "cli/InteractiveRun.h"
 
+#include "cli/CauseText.h"
 #include "cli/OpenRepository.h"
 #include "cli/RunOutcome.h"
 #include "cli/RunPlatform.h"
@@ -7,6 +8,7 @@
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
 #include "run/RunExport.h"
+#include "run/clsExceptionHandler.h"
 
 namespace wxbrg::cli {
 
@@ -22,6 +24,15 @@ std::string RepositoryFolder(const ProfileStore& store) {
 /// Shows what is wrong with the stored options, if anything is.
 void ReportStore(const std::string& problem, const std::string& consequence, MessageBox& messageBox) {
     if (!problem.empty()) messageBox.Report("wxbrg", consequence + problem);
+}
+
+/// Shows the cause behind the last box where the user looks: in a window of its own, or as a line.
+void ShowCause(const RunReport& report, const Dialogs& dialogs, std::ostream& err) {
+    const std::string cause = report.ending == RunEnding::normal ? std::string() : CauseText(report.cause);
+    if (dialogs.inWindows && !cause.empty())
+        dialogs.messageBox->Show(productName, cause, BoxStyle::ok + Severity::information);
+    else
+        ReportCause(report, err);
 }
 
 }  // namespace
@@ -46,6 +57,7 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
     ReportStore(environment.profileStore.TakeWriteProblem(),
                 "Not everything could be stored: ", *dialogs.messageBox);
     ReportProgramFailure(report, environment.err);
+    ShowCause(report, dialogs, environment.err);
     ReportLostCharacters(*codePage, environment.err);
     return ExitStatusOf(report, false);
 }

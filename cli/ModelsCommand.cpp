@@ -3,6 +3,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/CauseText.h"
 #include "cli/ExitStatus.h"
 #include "cli/OpenRepository.h"
 #include "cli/ProcessTypes.h"
@@ -34,6 +35,7 @@ int RunModelsCommand(const ModelsArguments& given, const ToolEnvironment& enviro
         environment.err);
     if (inForce.report.ending != RunEnding::normal) {
         ReportProgramFailure(inForce.report, environment.err);
+        ReportCause(inForce.report, environment.err);
         return ExitStatusOf(inForce.report, false);
     }
     const std::unique_ptr<Progress> progress = environment.progress();

@@ -1,11 +1,13 @@
 #include "cli/OpenRepository.h"
 
 #include <algorithm>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "cli/UsageError.h"
+#include "support/Failure.h"
 
 namespace wxbrg::cli {
 
@@ -22,7 +24,12 @@ OpenedRepository OpenRepository(const RepositoryArguments& given, const ToolEnvi
     request.typesFile = given.typesFile;
     request.progress = ProgressOf(progress, given.file);
     OpenedRepository opened;
-    opened.catalogue = environment.openRepository(request);
+    try {
+        opened.catalogue = environment.openRepository(request);
+    } catch (const std::bad_alloc&) {
+        throw Failure(FailureKind::outOfMemory, "reading " + given.file)
+            .Because(FailureCause::OfMemory(given.file));
+    }
     opened.locale = ChooseLocale(*opened.catalogue, given.locale);
     return opened;
 }

@@ -3,6 +3,7 @@
 #include <exception>
 #include <ostream>
 
+#include "cli/CauseText.h"
 #include "cli/Dispatch.h"
 #include "cli/ExitStatus.h"
 #include "cli/ExportCommand.h"
@@ -14,7 +15,6 @@
 #include "cli/ReplayCommand.h"
 #include "cli/ToolParser.h"
 #include "cli/UsageError.h"
-#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
 
@@ -69,7 +69,7 @@ int RunProgram(const std::vector<std::string>& arguments, const ToolEnvironment&
         environment.err << "wxbrg: " << error.what() << '\n';
         status = ExitStatus::usage;
     } catch (const std::exception& error) {
-        environment.err << "wxbrg: " << Printable(error.what()) << '\n';
+        ReportException(error, environment.err);
     }
     if (environment.out.flush()) return status;
     environment.err << "wxbrg: The standard output could not be written.\n";

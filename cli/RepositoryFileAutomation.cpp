@@ -28,7 +28,8 @@ ARISDatabase RepositoryFileAutomation::OpenDatabase(std::string_view server, std
         catalogue_ = openRepository_(request);
     } catch (const Failure& failure) {
         const std::string name = TextOf(PathOf(file_).filename());
-        throw Failure::WithDescription(failure.Number, Replace(failure.Description, file_, name));
+        throw Failure::WithDescription(failure.Number, Replace(failure.Description, file_, name))
+            .Because(failure.Cause);
     }
     return catalogue_->Application()
         ->GetComponent(arisReportComponent)

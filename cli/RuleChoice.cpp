@@ -1,5 +1,6 @@
 #include "cli/RuleChoice.h"
 
+#include "cli/CauseText.h"
 #include "cli/UsageError.h"
 #include "support/Failure.h"
 
@@ -12,8 +13,9 @@ std::optional<std::string> ChosenProfile(const RuleArguments& given, FileSystem&
     try {
         files.Open(*given.profile, FileAccess::read)->Close();
     } catch (const Failure& failure) {
+        const std::string cause = CauseText(failure.Cause);
         throw UsageError("The mapping profile " + *given.profile + " cannot be read: " + failure.Description +
-                         '.');
+                         (cause.empty() ? "." : ". " + cause));
     }
     return given.profile;
 }

@@ -2,10 +2,10 @@
 #include <iostream>
 #include <memory>
 
+#include "cli/CauseText.h"
 #include "cli/ExitStatus.h"
 #include "cli/Program.h"
 #include "cli/System.h"
-#include "support/TerminalText.h"
 
 int main(int argc, char** argv) {
     using namespace wxbrg;
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
         const std::unique_ptr<cli::System> system = cli::OpenSystem();
         return cli::RunProgram(system->Arguments(argc, argv), system->Environment());
     } catch (const std::exception& error) {
-        std::cerr << "wxbrg: " << Printable(error.what()) << '\n';
+        cli::ReportException(error, std::cerr);
         return cli::ExitStatus::failure;
     }
 }

@@ -15,6 +15,7 @@ struct Dialogs {
     std::unique_ptr<FileDialog> fileDialog;
     std::unique_ptr<OptionsFormView> optionsFormView;
     std::unique_ptr<HelpViewer> helpViewer;
+    bool inWindows = false;  ///< the user sees windows, and perhaps no terminal
 };
 
 }  // namespace wxbrg

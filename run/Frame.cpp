@@ -23,10 +23,15 @@ void StopInTestBuild([[maybe_unused]] const Failure& failure) {
 #endif
 }
 
+Failure OutOfMemory() {
+    return Failure(FailureKind::outOfMemory).Because(FailureCause::OfMemory());
+}
+
 }  // namespace
 
 FailureAction Frame::Tail(const Failure& failure) {
     inTail_ = true;
+    gBlock.gRunReport.cause = failure.Cause;
     if (!gBlock.gExceptionHandler)
         throw std::runtime_error("failure " + std::to_string(failure.Number) + " in " +
                                  std::string(gBlock.gCurrentProcedure) + ": " + failure.Description);
@@ -56,7 +61,7 @@ FailureAction Frame::ActOnCurrentException() {
         return Act(failure);
     } catch (const std::bad_alloc&) {
         if (inTail_) throw;
-        return Act(Failure(FailureKind::outOfMemory));
+        return Act(OutOfMemory());
     }
 }
 
@@ -73,7 +78,7 @@ void Frame::LeaveByCurrentException() {
         failure = thrown;
     } catch (const std::bad_alloc&) {
         if (inTail_) throw;
-        failure = Failure(FailureKind::outOfMemory);
+        failure = OutOfMemory();
     }
     if (Tail(failure) != FailureAction::leave) {
         StopInTestBuild(failure);

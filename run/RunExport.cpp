@@ -1,6 +1,7 @@
 #include "run/RunExport.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "mapping/clsMappingRule.h"
@@ -26,6 +27,12 @@ void RunToItsEnd(void (*body)()) {
         gBlock.gRunReport.ending = end.ending;
         gBlock.gRunReport.number = end.number;
         gBlock.gRunReport.procedure = gBlock.gCurrentProcedure;
+    } catch (const std::bad_alloc&) {
+        // Not even the box had room.
+        gBlock.gRunReport.ending = RunEnding::error;
+        gBlock.gRunReport.procedure = gBlock.gCurrentProcedure;
+        gBlock.gRunReport.error = "not enough memory in " + gBlock.gRunReport.procedure;
+        gBlock.gRunReport.cause = FailureCause::OfMemory();
     } catch (const std::exception& failure) {
         gBlock.gRunReport.ending = RunEnding::error;
         gBlock.gRunReport.procedure = gBlock.gCurrentProcedure;

@@ -9,6 +9,7 @@
 #include "aris/Repository.h"
 #include "platform/Platform.h"
 #include "platform/RunStack.h"
+#include "support/Failure.h"
 
 namespace wxbrg {
 
@@ -57,6 +58,7 @@ struct RunReport {
     std::int32_t number = 0;  ///< of the failure that ended the run
     std::string procedure;    ///< that was running when the run was ended
     std::string error;        ///< what went wrong, for `RunEnding::error`
+    FailureCause cause;       ///< what lies behind the failure that ended the run, where that is known
 
     std::uint64_t modelsSelected = 0;
     std::uint64_t processes = 0;

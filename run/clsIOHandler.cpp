@@ -63,6 +63,9 @@ FileDialogSettings DialogSettings() {
 
 std::string LogFileNameOf(std::string_view definitionName) {
     constexpr std::size_t extension = 4;
+    if (CharacterCount(definitionName) < extension)
+        throw Failure(FailureKind::invalidCall)
+            .Because({FailureCause::Kind::nameTooShort, {}, std::string(definitionName)});
     return std::string(WithoutLast(definitionName, extension)).append(".log");
 }
 

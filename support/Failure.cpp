@@ -46,4 +46,17 @@ Failure Failure::WithDescription(std::int32_t number, std::string description) {
     return failure;
 }
 
+Failure Failure::Because(FailureCause cause) && {
+    Cause = std::move(cause);
+    return std::move(*this);
+}
+
+FailureCause FailureCause::OfSystem(int number, std::string_view file) {
+    return {Kind::system, std::error_code(number, std::generic_category()), std::string(file)};
+}
+
+FailureCause FailureCause::OfMemory(std::string_view file) {
+    return {Kind::system, std::make_error_code(std::errc::not_enough_memory), std::string(file)};
+}
+
 }  // namespace wxbrg

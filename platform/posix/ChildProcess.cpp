@@ -38,7 +38,7 @@ class Descriptor {
 
 /// The whole life of the child.
 [[noreturn]] void BeChild(const std::function<void()>& body, const Descriptor& errors) {
-    dup2(errors.Get(), STDERR_FILENO);
+    while (dup2(errors.Get(), STDERR_FILENO) < 0 && errno == EINTR) continue;
     // An abort is no crash to make a core file of.
     std::signal(SIGABRT, [](int) {
         _exit(failedStatus);
@@ -74,7 +74,10 @@ int WaitFor(pid_t process) {
 
 std::string FirstLine(const Descriptor& file) {
     std::array<char, 1024> bytes{};
-    const ssize_t size = pread(file.Get(), bytes.data(), bytes.size(), 0);
+    ssize_t size = 0;
+    do {
+        size = pread(file.Get(), bytes.data(), bytes.size(), 0);
+    } while (size < 0 && errno == EINTR);
     const std::string text(bytes.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
     return text.substr(0, text.find('\n'));
 }

@@ -62,6 +62,7 @@ std::variant<Dialogs, NoDesktop> OpenDesktop(const std::string& directory, const
         return NoDesktop{"The display cannot be opened: " + *failure};
     Dialogs dialogs;
     module.make(settings, dialogs);
+    dialogs.inWindows = true;
     return dialogs;
 }
 

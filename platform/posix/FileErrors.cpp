@@ -5,8 +5,6 @@
 #include <cerrno>
 #include <cstddef>
 
-#include "support/Failure.h"
-
 namespace wxbrg {
 
 namespace {
@@ -37,6 +35,10 @@ std::int32_t FailureNumberOf(int error, const std::string& name) {
         default:
             return FailureKind::fileAccess;
     }
+}
+
+Failure FileFailure(int error, const std::string& name) {
+    return Failure(FailureNumberOf(error, name), name).Because(FailureCause::OfSystem(error, name));
 }
 
 }  // namespace wxbrg

@@ -1,9 +1,14 @@
 #include "platform/posix/Iconv.h"
 
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <array>
 #include <cerrno>
 #include <cstdint>
 #include <stdexcept>
+#include <system_error>
 
 namespace wxbrg {
 
@@ -23,12 +28,32 @@ int RunToEnd(iconv_t conversion, char** unread, std::size_t* left, std::string& 
     }
 }
 
+/// What kept iconv_open from opening a conversion. The system's conversions are files that are loaded on
+/// demand; where one cannot be, glibc reports EINVAL as if the character set were unknown. So the two things
+/// that such a file needs are tried: a descriptor and address space.
+int CauseOfFailedOpen(int error) {
+    if (error != EINVAL) return error;
+    const int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) return errno == EMFILE || errno == ENFILE ? errno : error;
+    close(descriptor);
+    constexpr std::size_t needed = std::size_t{1} << 20U;
+    void* const room = mmap(nullptr, needed, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (room == MAP_FAILED) return errno;
+    munmap(room, needed);
+    return error;
+}
+
+[[noreturn]] void FailToOpen(int error, const std::string& to, const std::string& from) {
+    const std::string conversion = "text from " + from + " to " + to;
+    if (error == EINVAL) throw std::invalid_argument("the system cannot convert " + conversion);
+    throw std::system_error(error, std::generic_category(), "converting " + conversion);
+}
+
 }  // namespace
 
 Iconv::Iconv(const char* to, const char* from) : conversion_(iconv_open(to, from)) {
     // iconv_open marks a failure by this value and by nothing else.
-    if (reinterpret_cast<std::intptr_t>(conversion_) == -1)
-        throw std::invalid_argument("the system cannot convert text from " + std::string(from) + " to " + to);
+    if (reinterpret_cast<std::intptr_t>(conversion_) == -1) FailToOpen(CauseOfFailedOpen(errno), to, from);
 }
 
 Iconv::Outcome Iconv::Convert(std::string_view bytes, std::string& result) {

@@ -18,7 +18,8 @@ class Iconv {
         bool incomplete;        ///< the bytes that remain are the beginning of a character
     };
 
-    /// Takes character sets by the system's names. Throws `std::invalid_argument` when it does not know them.
+    /// Takes character sets by the system's names. Throws `std::invalid_argument` when it does not know them,
+    /// `std::system_error` when it lacks what loading the conversion takes.
     Iconv(const char* to, const char* from);
     ~Iconv() { iconv_close(conversion_); }
     Iconv(const Iconv&) = delete;

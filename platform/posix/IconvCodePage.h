@@ -13,10 +13,12 @@ namespace wxbrg {
 class IconvCodePage : public CodePage {
   public:
     /// Throws `std::invalid_argument`, with a text for the user, for a code page that is not supported.
+    /// Throws `std::system_error` where the system cannot load the conversion at present.
     explicit IconvCodePage(std::uint32_t number);
 
     /// Whether the system knows the code page, and files can be in it: the letters and digits of ASCII, the
-    /// blank and the line breaks are those of ASCII.
+    /// blank and the line breaks are those of ASCII. Throws `std::system_error` where the system cannot say
+    /// at present.
     static bool IsSupported(std::uint32_t number);
 
     std::uint32_t Number() const override { return number_; }

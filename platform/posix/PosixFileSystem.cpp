@@ -34,8 +34,9 @@ class PosixFile : public File {
     }
 
   private:
-    /// Throws the failure that `errno` stands for.
-    [[noreturn]] void Fail() const { throw Failure(FailureNumberOf(errno, name_), name_); }
+    /// Throws the failure that an `errno` value stands for. Making an exception allocates, and that sets
+    /// `errno` where memory is tight: its value is taken by the caller.
+    [[noreturn]] void Fail(int error) const { throw FileFailure(error, name_); }
 
     std::string name_;
     int descriptor_;
@@ -48,7 +49,7 @@ std::string PosixFile::ReadAll() {
         const ssize_t count = read(descriptor_, block.data(), block.size());
         if (count > 0) bytes.append(block.data(), static_cast<std::size_t>(count));
         if (count == 0) return bytes;
-        if (count < 0 && errno != EINTR) Fail();
+        if (count < 0 && errno != EINTR) Fail(errno);
     }
 }
 
@@ -56,14 +57,14 @@ void PosixFile::Write(std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t count = write(descriptor_, bytes.data(), bytes.size());
         if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
-        if (count < 0 && errno != EINTR) Fail();
+        if (count < 0 && errno != EINTR) Fail(errno);
     }
 }
 
 void PosixFile::Close() {
     if (descriptor_ < 0) return;
     // The descriptor is gone in any case, also when a signal came in between.
-    if (close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) Fail();
+    if (close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) Fail(errno);
 }
 
 int OpenFlags(FileAccess access) {
@@ -83,12 +84,14 @@ int OpenFlags(FileAccess access) {
 std::unique_ptr<File> PosixFileSystem::Open(const std::string& name, FileAccess access) {
     if (name.find('\0') != std::string::npos) throw Failure(FailureKind::fileAccess, name);
     int descriptor = -1;
+    int error = 0;
     do {
         descriptor = open(name.c_str(), OpenFlags(access), 0666);
-    } while (descriptor < 0 && errno == EINTR);
-    if (descriptor < 0) throw Failure(FailureNumberOf(errno, name), name);
+        error = errno;
+    } while (descriptor < 0 && error == EINTR);
+    if (descriptor < 0) throw FileFailure(error, name);
     auto file = std::make_unique<PosixFile>(name, descriptor);
-    if (file->IsFolder()) throw Failure(FailureKind::fileAccess, name);
+    if (file->IsFolder()) throw FileFailure(EISDIR, name);
     return file;
 }
 

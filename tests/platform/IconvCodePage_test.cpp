@@ -1,6 +1,11 @@
 #include "platform/posix/IconvCodePage.h"
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <system_error>
 
 namespace wxbrg {
 namespace {
@@ -16,6 +21,25 @@ TEST(IconvCodePage, WritesTheBytesOfTheCodePage) {
     EXPECT_EQ(IconvCodePage(936).ToBytes("漢"), "\x9D\x68");
     EXPECT_EQ(IconvCodePage(28605).ToBytes("€"), "\xA4");
     EXPECT_EQ(IconvCodePage(65001).ToBytes("Grüße 漢 \U0001F600"), "Grüße 漢 \U0001F600");
+}
+
+TEST(IconvCodePage, AConversionThatCannotBeLoadedIsNoUnknownCodePage) {
+    // In a process of its own: the system remembers what it could not load.
+    const pid_t process = fork();
+    if (process == 0) {
+        const rlimit none{0, 0};
+        int status = setrlimit(RLIMIT_NOFILE, &none) == 0 ? 1 : 99;
+        try {
+            status += IconvCodePage::IsSupported(1257) ? 1 : 2;
+        } catch (const std::system_error& error) {
+            if (error.code() == std::errc::too_many_files_open) status = 0;
+        }
+        _exit(status);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(process, &status, 0), process);
+    EXPECT_EQ(status, 0);
+    EXPECT_FALSE(IconvCodePage::IsSupported(4711));
 }
 
 TEST(IconvCodePage, ReadsTheBytesOfTheCodePage) {

@@ -1,17 +1,67 @@
 #include "platform/posix/PosixFileSystem.h"
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 
 #include "tests/TemporaryFolder.h"
 #include "tests/support/FailureMatcher.h"
 
+/// Room for an exception, from the library. `errno` is set on the way, as an allocation may do that succeeds
+/// in the end.
+extern "C" void* __cxa_allocate_exception(std::size_t size) noexcept {
+    using Allocate = void*(std::size_t);
+    static auto* const allocate = reinterpret_cast<Allocate*>(dlsym(RTLD_NEXT, "__cxa_allocate_exception"));
+    void* const room = allocate(size);
+    errno = ENOMEM;
+    return room;
+}
+
 namespace wxbrg {
 namespace {
+
+/// Matches a callable that throws a failure with the system's error behind it.
+auto FailsBy(std::int32_t number, int error, const std::string& file) {
+    return testing::Throws<Failure>(testing::AllOf(
+        testing::Field(&Failure::Number, number),
+        testing::Field(&Failure::Cause,
+                       testing::AllOf(testing::Field(&FailureCause::kind, FailureCause::Kind::system),
+                                      testing::Field(&FailureCause::error,
+                                                     std::error_code(error, std::generic_category())),
+                                      testing::Field(&FailureCause::file, file)))));
+}
+
+TEST(PosixFileSystem, TheSystemsErrorIsKeptFromTheMomentItArose) {
+    const TemporaryFolder folder;
+    PosixFileSystem system;
+    const std::string missing = folder.NameOf("missing");
+    EXPECT_THAT(
+        [&] {
+            system.Open(missing, FileAccess::read);
+        },
+        FailsBy(53, ENOENT, missing));
+    EXPECT_THAT(
+        [&] {
+            system.Open(missing + "/file", FileAccess::empty);
+        },
+        FailsBy(76, ENOENT, missing + "/file"));
+    EXPECT_THAT(
+        [&] {
+            system.Open(folder.Path().string(), FileAccess::read);
+        },
+        FailsBy(75, EISDIR, folder.Path().string()));
+    const auto full = system.Open("/dev/full", FileAccess::append);
+    EXPECT_THAT(
+        [&] {
+            full->Write("x");
+        },
+        FailsBy(61, ENOSPC, "/dev/full"));
+}
 
 TEST(PosixFileSystem, AFullDiskIs61WithTheFilesName) {
     PosixFileSystem system;
@@ -27,6 +77,19 @@ TEST(PosixFileSystem, AFullDiskIs61WithTheFilesName) {
         },
         Fails(61));
     EXPECT_NO_THROW(file->Close());
+}
+
+TEST(PosixFileSystem, TooManyOpenFilesAreTheCauseOf75) {
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const rlimit none{0, limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    EXPECT_THAT(
+        [&] {
+            PosixFileSystem().Open("/dev/null", FileAccess::read);
+        },
+        FailsBy(75, EMFILE, "/dev/null"));
+    setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 TEST(PosixFileSystem, ANameInTheWorkingFolderIsFoundOr53) {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
+
 namespace wxbrg {
 namespace {
 
@@ -42,6 +44,14 @@ TEST(Failure, TakesADescriptionOfItsOwn) {
     const Failure failure = Failure::WithDescription(2050, "The name 'Ä' is too long.");
     EXPECT_EQ(failure.Number, 2050);
     EXPECT_EQ(failure.Description, "The name 'Ä' is too long.");
+}
+
+TEST(Failure, CarriesWhatLiesBehindItBesideItsWords) {
+    const Failure failure = Failure(61, "out.wpx").Because(FailureCause::OfSystem(ENOSPC, "out.wpx"));
+    EXPECT_EQ(failure.Description, "disk full: out.wpx");
+    EXPECT_EQ(failure.Cause.error, std::errc::no_space_on_device);
+    EXPECT_EQ(failure.Cause.file, "out.wpx");
+    EXPECT_EQ(Failure(61).Cause.kind, FailureCause::Kind::none);
 }
 
 TEST(Failure, IsAnExceptionThatSaysItsDescription) {
