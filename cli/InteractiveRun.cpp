@@ -1,14 +1,18 @@
 #include "cli/InteractiveRun.h"
 
 #include "cli/CauseText.h"
+#include "cli/InputKeepingFileDialog.h"
 #include "cli/OpenRepository.h"
 #include "cli/RunOutcome.h"
 #include "cli/RunPlatform.h"
 #include "cli/StoredOptions.h"
+#include "options/MessageTexts.h"
 #include "options/OptionTable.h"
 #include "options/StoredValues.h"
 #include "run/RunExport.h"
+#include "run/clsARIS_Interface.h"
 #include "run/clsExceptionHandler.h"
+#include "run/modGlobals.h"
 
 namespace wxbrg::cli {
 
@@ -35,6 +39,15 @@ void ShowCause(const RunReport& report, const Dialogs& dialogs, std::ostream& er
         ReportCause(report, err);
 }
 
+/// The files that the run reads that is on its way.
+std::vector<InputFile> InputsOf(const ToolEnvironment& environment) {
+    std::vector<InputFile> files = CommonInputFiles(environment, StoredLanguage(environment.profileStore),
+                                                    ProfileBesideProgram(environment));
+    files.push_back({"the repository", environment.databaseFile(RepositoryFolder(environment.profileStore),
+                                                                gBlock.gARISInterface->sDatabase)});
+    return files;
+}
+
 }  // namespace
 
 int RunInteractively(const std::string& commandLine, const ToolEnvironment& environment) {
@@ -46,9 +59,14 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
     ReportStore(StoreProblem(environment.profileStore), "The default options count: ", *dialogs.messageBox);
     const std::unique_ptr<aris::Automation> automation = environment.folderAutomation(
         RepositoryFolder(environment.profileStore), ProgressOf(*progress, "the database"));
+    InputKeepingFileDialog fileDialog(*dialogs.fileDialog,
+                                      [&] {
+                                          return InputsOf(environment);
+                                      },
+                                      {}, {});
     Platform platform = PlatformOf(environment, {.codePage = *codePage,
                                                  .messageBox = *dialogs.messageBox,
-                                                 .fileDialog = *dialogs.fileDialog,
+                                                 .fileDialog = fileDialog,
                                                  .optionsFormView = *dialogs.optionsFormView,
                                                  .helpViewer = *dialogs.helpViewer,
                                                  .progress = *progress});

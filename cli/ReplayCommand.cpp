@@ -8,12 +8,14 @@
 
 #include "cli/ExitStatus.h"
 #include "cli/FolderFileSystem.h"
+#include "cli/InputKeepingFileDialog.h"
 #include "cli/ReplayCase.h"
 #include "cli/RepositoryFileAutomation.h"
 #include "cli/RunOutcome.h"
 #include "cli/RunPlatform.h"
 #include "cli/Transcript.h"
 #include "cli/UsageError.h"
+#include "options/MessageTexts.h"
 #include "options/OptionTable.h"
 #include "platform/Path.h"
 #include "platform/scripted/AnswerScript.h"
@@ -94,13 +96,32 @@ ReadyCase MakeReady(const fs::path& folder, const ToolEnvironment& environment) 
     return {std::move(given), std::move(store), std::move(script), std::move(codePage)};
 }
 
+/// The files that a run of the case reads.
+std::vector<InputFile> InputsOf(const fs::path& folder, const ToolEnvironment& environment,
+                                const ProfileStore& store) {
+    std::vector<InputFile> files = CommonInputFiles(environment, StoredLanguage(store), {});
+    for (const char* const name :
+         {"repository.aml", "command", "options", "machine-options", "answers", "code-page"})
+        files.push_back({"a file of the case", TextOf(fs::absolute(folder) / name)});
+    return files;
+}
+
 RunReport RunCase(ReadyCase& ready, const fs::path& folder, const fs::path& out,
                   const ToolEnvironment& environment) {
     PlainUserLocale userLocale;
     FolderFileSystem files(environment.fileSystem, out);
     ScriptedMessageBox answeringBox(ready.script);
     TranscribingMessageBox messageBox(answeringBox, environment.out);
-    ScriptedFileDialog fileDialog(ready.script);
+    ScriptedFileDialog answeringDialog(ready.script);
+    InputKeepingFileDialog fileDialog(
+        answeringDialog,
+        [&] {
+            return InputsOf(folder, environment, ready.store);
+        },
+        out,
+        [&](const std::string& name) {
+            TranscribeRefusal(name, environment.out);
+        });
     ScriptedOptionsFormView optionsFormView(ready.script);
     NoHelp helpViewer;
     NoProgress progress;

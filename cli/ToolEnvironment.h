@@ -56,6 +56,8 @@ struct ToolEnvironment {
     std::function<std::unique_ptr<StopRequests>()> catchStopRequests;
     /// The files that stored options are in, where they are in files.
     std::vector<std::string> optionFiles;
+    /// The file that is a database of `folderAutomation`.
+    std::function<std::string(const std::string& folder, const std::string& database)> databaseFile;
 };
 
 }  // namespace wxbrg::cli

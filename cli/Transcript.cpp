@@ -34,6 +34,10 @@ BoxAnswer TranscribingMessageBox::Show(std::string_view title, std::string_view 
     return answer;
 }
 
+void TranscribeRefusal(const std::string& name, std::ostream& out) {
+    out << R"({"refused": {"name": )" << JsonString(name) << R"(, "reason": "input"}})" << '\n' << std::flush;
+}
+
 void TranscribeEnding(const RunReport& report, std::ostream& out) {
     out << R"({"exit": )" << JsonString(EndingName(report.ending));
     if (report.ending == RunEnding::endedByFailure || report.ending == RunEnding::unknownFailure)

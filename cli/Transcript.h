@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <string>
 
 #include "platform/MessageBox.h"
 #include "run/RunExport.h"
@@ -19,6 +20,9 @@ class TranscribingMessageBox : public MessageBox {
     MessageBox& answering_;
     std::ostream& out_;
 };
+
+/// Writes that the name given to the file dialog was refused, because the run reads that file.
+void TranscribeRefusal(const std::string& name, std::ostream& out);
 
 /// Writes the last line: how the run ended.
 void TranscribeEnding(const RunReport& report, std::ostream& out);

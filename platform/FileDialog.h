@@ -30,7 +30,11 @@ struct FileDialogSettings {
     int filterIndex = 1;  ///< from 1
     /// Shows the help page about the file; called only where the flags hold `showHelp`. It never fails.
     std::function<void()> help = {};
+    /// Whether the run would lose a file that it reads by writing to a name, or to its log's; such a name is
+    /// not accepted, the user is shown why, and asked again. Empty: no name is refused so. It never fails.
+    std::function<bool(const std::string& name)> isInput = {};
 
+    bool Refuses(const std::string& name) const { return isInput && isInput(name); }
     bool Has(std::int32_t flag) const { return (flags & flag) != 0; }
 };
 

@@ -9,6 +9,10 @@
 
 namespace wxbrg {
 
+std::string XmlDatabaseFile(const std::string& folder, const std::string& database) {
+    return FileInFolder(folder, database + ".aml");
+}
+
 /// The application and its component: opens files, and keeps what it has opened.
 class XmlAutomation::Files final : public aris::Application, public aris::ReportComponent {
   public:
@@ -42,7 +46,7 @@ class XmlAutomation::Files final : public aris::Application, public aris::Report
 XmlAutomation::XmlAutomation(std::string folder, std::string typesFile, aris::LoadProgress progress)
     : XmlAutomation(std::make_unique<Files>(
           [folder = std::move(folder)](std::string_view database) {
-              return FileInFolder(folder, std::string(database) + ".aml");
+              return XmlDatabaseFile(folder, std::string(database));
           },
           std::move(typesFile), std::move(progress))) {}
 

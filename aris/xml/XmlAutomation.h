@@ -9,12 +9,15 @@
 
 namespace wxbrg {
 
+/// The file that is a database, by its name: that with the extension ".aml" in a folder.
+std::string XmlDatabaseFile(const std::string& folder, const std::string& database);
+
 /// Stands for ARIS where there is none: its application opens ARIS XML exports as databases. A repository
 /// that was opened lives as long as the automation.
 class XmlAutomation final : public aris::Automation {
   public:
-    /// A database is the file of its name with the extension ".aml" in `folder`; an empty folder is the
-    /// working directory. `typesFile` holds further rows for the type table, empty for none.
+    /// A database is the file that `XmlDatabaseFile` names; an empty folder is the working directory.
+    /// `typesFile` holds further rows for the type table, empty for none.
     XmlAutomation(std::string folder, std::string typesFile, aris::LoadProgress progress);
     /// Every database is this file, whatever its name.
     static XmlAutomation ForFile(std::string file, std::string typesFile = {},

@@ -121,7 +121,8 @@ class PosixSystem : public System {
                 return StageFiles(fileSystem_, targets, stop);
             },
         .catchStopRequests = CatchStopSignals,
-        .optionFiles = OptionFiles()};
+        .optionFiles = OptionFiles(),
+        .databaseFile = XmlDatabaseFile};
 };
 
 }  // namespace

@@ -21,9 +21,19 @@ QString CreateQuestion(const std::string& language) {
     return "%1 does not exist.\nDo you want to create it?";
 }
 
+/// That the name, or its log's, is a file that the export reads, which Qt has in no language.
+QString InputObjection(const std::string& language) {
+    if (language == "DEU")
+        return "%1 oder das Protokoll dazu würde eine Datei überschreiben, die der Export liest.\n"
+               "Bitte wählen Sie einen anderen Namen.";
+    return "%1 or its log would overwrite a file that the export reads.\nPlease choose a different file "
+           "name.";
+}
+
 /// What is wrong with a chosen name, in a sentence that Qt has in each of its languages; empty when all is
 /// right.
-QString Objection(const QFileInfo& file, const FileDialogSettings& settings) {
+QString Objection(const QFileInfo& file, const FileDialogSettings& settings, const std::string& language) {
+    if (settings.Refuses(file.filePath().toStdString())) return InputObjection(language).arg(file.filePath());
     const QFileInfo folder(file.path());
     if (settings.Has(FileDialogFlag::pathMustExist) && !folder.isDir())
         return QFileDialog::tr(
@@ -91,7 +101,7 @@ std::optional<std::string> QtFileDialog::AskSaveName(const FileDialogSettings& s
     while (dialog.exec() == QDialog::Accepted) {
         const QFileInfo file(dialog.selectedFiles().value(0));
         if (IsPattern(file.fileName().toStdString()) || file.isDir()) continue;
-        const QString objection = Objection(file, settings);
+        const QString objection = Objection(file, settings, language_);
         if (!objection.isEmpty())
             QMessageBox::warning(&dialog, dialog.windowTitle(), objection);
         else if (AgreesToCreate(dialog, file, settings, language_))

@@ -5,9 +5,12 @@
 namespace wxbrg {
 
 std::optional<std::string> ScriptedFileDialog::AskSaveName(const FileDialogSettings& settings) {
-    ScriptedAnswer answer = script_.TakeForFile();
-    if (answer.action == ScriptedAction::cancelFile) return std::nullopt;
-    return WithDefaultExtension(std::move(answer.text), settings.defaultExtension);
+    for (;;) {
+        ScriptedAnswer answer = script_.TakeForFile();
+        if (answer.action == ScriptedAction::cancelFile) return std::nullopt;
+        std::string name = WithDefaultExtension(std::move(answer.text), settings.defaultExtension);
+        if (!settings.Refuses(name)) return name;
+    }
 }
 
 }  // namespace wxbrg

@@ -70,6 +70,15 @@ TEST_F(InteractiveProgram, SayingNoToANewFileAsksForAnotherName) {
     EXPECT_TRUE(Exists("result.wpx"));
 }
 
+TEST_F(InteractiveProgram, ANameThatIsTheRepositoryIsRefusedAndAskedForAgain) {
+    const std::string before = folder.Read("orders.aml");
+    const ProcessResult result = Answer("o\norders.aml\nresult\ny\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, HasSubstr("orders.aml or its log would overwrite a file that the export reads"));
+    EXPECT_EQ(folder.Read("orders.aml"), before);
+    EXPECT_TRUE(Exists("result.wpx"));
+}
+
 TEST_F(InteractiveProgram, TheEndOfTheInputEndsTheRunWhereverItComes) {
     for (const std::string input : {"", "c\n", "1\n", "o\n", "o\nc\n", "o\nresult\n"})
         EXPECT_EQ(Answer(input).status, 130) << input;

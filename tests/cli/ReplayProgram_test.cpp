@@ -69,6 +69,16 @@ TEST_F(ReplayProgram, BoxesAreTranscribedWithTheirAnswers) {
     EXPECT_TRUE(Exists("out/result.wpx"));
 }
 
+TEST_F(ReplayProgram, ANameThatIsAFileOfTheCaseIsRefusedAndTheNextAnswerCounts) {
+    folder.Write("case/answers", "options ok\nfile case/repository.aml\nfile case/options\n");
+    const std::string before = folder.Read("case/repository.aml");
+    const ProcessResult result = Run({"replay", "case", "--out", "."});
+    EXPECT_EQ(result.out, "{\"refused\": {\"name\": \"case/repository.aml\", \"reason\": \"input\"}}\n" +
+                              std::string(normalExit));
+    EXPECT_EQ(folder.Read("case/repository.aml"), before);
+    EXPECT_TRUE(Exists("case/options.wpx"));
+}
+
 TEST_F(ReplayProgram, ARunThatDoesNotEndNormallyIsStillExitStatus0) {
     folder.Write("case/answers", "options cancel:yes\n");
     const ProcessResult cancelled = Replay();

@@ -61,7 +61,8 @@ struct TestToolEnvironment {
                           return StageFiles(fileSystem, targets, stop);
                       },
                       CatchStopSignals,
-                      {}} {}
+                      {},
+                      XmlDatabaseFile} {}
     TestToolEnvironment(const TestToolEnvironment&) = delete;
     TestToolEnvironment& operator=(const TestToolEnvironment&) = delete;
 

@@ -63,6 +63,12 @@ bool TerminalFileDialog::Accept(const std::filesystem::path& file, const FileDia
         terminal_.Print("There is no folder " + TextOf(folder) + "; please check the name.");
         return false;
     }
+    if (settings.Refuses(TextOf(file))) {
+        terminal_.Print(TextOf(file) +
+                       " or its log would overwrite a file that the export reads; please choose "
+                       "another name.");
+        return false;
+    }
     if (std::filesystem::exists(file, error)) return AcceptExisting(file, settings);
     return !settings.Has(FileDialogFlag::createPrompt) ||
            Agrees(TextOf(file) + " does not exist. Create it?");
