@@ -101,18 +101,21 @@ TEST_F(Causes, ARepositoryThatCannotBeReadIsNamedWithTheSystemsError) {
 }
 
 TEST_F(Causes, MemoryThatRunsOutIsNamed) {
-    std::string name(std::size_t{8} << 20U, 'x');
-    WriteExport("large.aml", {{"{m1}", name}});
-    // Below what the program needs, above what it needs to start.
-    for (const int megabytes : {20, 24, 28, 32, 40, 48}) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the address sanitizer needs more address space than any limit leaves";
+#endif
+    WriteExport("large.aml", {{"{m1}", std::string(std::size_t{8} << 20U, 'x')}});
+    // From what the program needs to start up to more than the model takes.
+    int failed = 0;
+    for (const int megabytes : {20, 24, 28, 32, 64, 128}) {
         const ProcessResult result =
             RunLimited("ulimit -v " + std::to_string(megabytes * 1024), "models large.aml --default-rules");
-        if (result.status == 0 ||
-            result.err.find("error while loading shared libraries") != std::string::npos)
-            continue;
-        EXPECT_THAT(result.err, testing::AnyOf(HasSubstr("memory"), HasSubstr("Memory"))) << megabytes;
+        if (result.status == 0 || result.err.find("shared libraries") != std::string::npos) continue;
+        ++failed;
+        EXPECT_THAT(result.err, HasSubstr("memory")) << megabytes;
         EXPECT_THAT(result.err, testing::Not(HasSubstr("bad_alloc"))) << megabytes;
     }
+    EXPECT_GT(failed, 0);
 }
 
 TEST_F(Causes, ANameTooShortForALogIsNamedBehindTheBox) {

@@ -48,6 +48,7 @@ TEST_F(DlDesktopTest, AModuleThatCanOpenTheDisplayGivesItsDialogs) {
     auto opened = OpenDesktop(WXBRG_TEST_LIBRARIES "/works", {"DEU", "/help"});
     ASSERT_TRUE(std::holds_alternative<Dialogs>(opened));
     EXPECT_NE(std::get<Dialogs>(opened).helpViewer, nullptr);
+    EXPECT_TRUE(std::get<Dialogs>(opened).inWindows);
 }
 
 TEST_F(DlDesktopTest, WithoutADisplayNoModuleIsLookedFor) {
