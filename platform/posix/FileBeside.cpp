@@ -71,7 +71,7 @@ void WriteBytesTo(int descriptor, std::string_view bytes, const std::string& nam
         const ssize_t count = write(descriptor, bytes.data(), bytes.size());
         const int error = errno;
         if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
-        if (count < 0 && error != EINTR) throw Failure(FailureNumberOf(error, name), name);
+        if (count < 0 && error != EINTR) throw FileFailure(error, name);
     }
 }
 
@@ -100,7 +100,7 @@ void FileBeside::Close() {
 }
 
 void FileBeside::Fail(int error) const {
-    throw Failure(FailureNumberOf(error, name_), name_);
+    throw FileFailure(error, name_);
 }
 
 void FileBeside::Refuse(int error) const {

@@ -48,7 +48,7 @@ class FileForStream : public StagedFile {
     std::optional<std::string> Abandon() override { return std::nullopt; }
 
   private:
-    [[noreturn]] void Fail(int error) const { throw Failure(FailureNumberOf(error, name_), name_); }
+    [[noreturn]] void Fail(int error) const { throw FileFailure(error, name_); }
     int OpenStream() const;
     void CopyTo(int stream) const;
 

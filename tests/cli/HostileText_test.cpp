@@ -92,7 +92,7 @@ TEST_F(HostileText, InTheListOfLanguages) {
 }
 
 TEST_F(HostileText, InArgumentsOfAnExport) {
-    ExpectPrintableRun({"export", "one.aml", "-o", hostile + "/out.wpx"}, 1);
+    ExpectPrintableRun({"export", "one.aml", "-o", hostile + "/out.wpx"}, 2);
     for (const std::string option : {"--model", "--profile", "--set", "--locale", "--code-page"})
         ExpectPrintableRun({"export", "one.aml", "-o", "out.wpx", option, hostile}, 2);
     ExpectPrintableRun({"export", "one.aml", "-o", "out.wpx", "--set", "ConvertNames=" + hostile}, 2);

@@ -65,8 +65,8 @@ bool TerminalFileDialog::Accept(const std::filesystem::path& file, const FileDia
     }
     if (settings.Refuses(TextOf(file))) {
         terminal_.Print(TextOf(file) +
-                       " or its log would overwrite a file that the export reads; please choose "
-                       "another name.");
+                        " or its log would overwrite a file that the export reads; please choose "
+                        "another name.");
         return false;
     }
     if (std::filesystem::exists(file, error)) return AcceptExisting(file, settings);
