@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <utility>
 
 #include "mapping/ArisTypes.h"
 #include "mapping/RuleLookups.h"
@@ -30,12 +29,11 @@ std::string_view WithoutDomain(std::string_view login) {
 
 /// A name that begins with a digit keeps it, and loses the first "sChar" instead. Odd as that is, to change
 /// it would rename objects in the definitions that sites have.
-std::string WithoutMarkBehindDigit(std::string name) {
-    if (name.empty() || name.front() < '0' || name.front() > '9') return name;
+void ReplaceMarkBehindDigit(std::string& name) {
+    if (name.empty() || name.front() < '0' || name.front() > '9') return;
     constexpr std::string_view mark = "sChar";
     const std::size_t found = name.find(mark);
     if (found != std::string::npos) name.replace(found, mark.size(), "_");
-    return name;
 }
 
 /// A domain type's name and the data type that it becomes. A Boolean is a string on purpose, for there is
@@ -88,7 +86,7 @@ std::string ConvertByKind(std::string_view text, NameKind kind, std::string_view
             name = UpperCase(name);
             break;
         case NameExtra::digitInFront:
-            name = WithoutMarkBehindDigit(std::move(name));
+            ReplaceMarkBehindDigit(name);
             break;
         case NameExtra::unequalSign:
             name = Replace(name, "!=", "<>");
