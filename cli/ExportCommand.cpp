@@ -10,6 +10,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/ExportFiles.h"
 #include "cli/ExportSummary.h"
+#include "cli/InputFiles.h"
 #include "cli/ModelChoice.h"
 #include "cli/OpenRepository.h"
 #include "cli/OptionSettings.h"
@@ -19,6 +20,7 @@
 #include "cli/StoppingProgress.h"
 #include "cli/StoredOptions.h"
 #include "cli/UsageError.h"
+#include "options/MessageTexts.h"
 #include "platform/Path.h"
 #include "platform/scripted/OverlayProfileStore.h"
 #include "run/RunExport.h"
@@ -96,11 +98,20 @@ BatchParts PartsOf(const ExportArguments& given, const ToolEnvironment& environm
     return own;
 }
 
+std::vector<InputFile> InputsOf(const ExportArguments& given, const BatchParts& own,
+                                const ToolEnvironment& environment) {
+    std::vector<InputFile> inputs =
+        CommonInputFiles(environment, StoredLanguage(own.profileStore), own.mappingProfile);
+    inputs.push_back({"the repository", given.repository.file});
+    inputs.push_back({"the table of types", given.repository.typesFile});
+    return inputs;
+}
+
 int Export(const ExportArguments& given, const ToolEnvironment& environment, const StopRequests& stop) {
     const auto start = std::chrono::steady_clock::now();
-    ExportFiles files(given, environment, stop);
     StoredOptions stored(given.noStoredOptions, environment);
     BatchParts own = PartsOf(given, environment, stored.Store(), stop);
+    ExportFiles files(given, InputsOf(given, own, environment), environment, stop);
     // What the boxes say here, those of the run say again.
     std::ostringstream ignored;
     const ProcessTypes inForce =

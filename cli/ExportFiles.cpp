@@ -19,19 +19,19 @@ std::unique_ptr<StagedFiles> StageTargets(const std::vector<StagedTarget>& targe
     }
 }
 
-std::unique_ptr<StagedFiles> StageApart(const ExportArguments& given, const ToolEnvironment& environment,
-                                        const StopRequests& stop) {
+std::unique_ptr<StagedFiles> StageApart(const ExportArguments& given, const std::vector<InputFile>& inputs,
+                                        const ToolEnvironment& environment, const StopRequests& stop) {
     const std::vector<StagedTarget> targets = TargetsOf(given);
-    RequireTargetsApart(targets, given, environment);
+    RequireTargetsApart(targets, inputs);
     RequireNoneThere(targets);
     return StageTargets(targets, environment, stop);
 }
 
 }  // namespace
 
-ExportFiles::ExportFiles(const ExportArguments& given, const ToolEnvironment& environment,
-                         const StopRequests& stop)
-    : definition_(TargetsOf(given).front()), staged_(StageApart(given, environment, stop)) {}
+ExportFiles::ExportFiles(const ExportArguments& given, const std::vector<InputFile>& inputs,
+                         const ToolEnvironment& environment, const StopRequests& stop)
+    : definition_(TargetsOf(given).front()), staged_(StageApart(given, inputs, environment, stop)) {}
 
 std::string ExportFiles::NameForTheRun() {
     return definitionForTheRun;

@@ -3,7 +3,9 @@
 #include <iosfwd>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "cli/InputFiles.h"
 #include "cli/ToolArguments.h"
 #include "cli/ToolEnvironment.h"
 #include "run/RunExport.h"
@@ -13,10 +15,11 @@ namespace wxbrg::cli {
 /// The files that an export writes: the run's own until it has ended well.
 class ExportFiles {
   public:
-    /// Throws `UsageError` where a file that is to be written is one that is read, where it exists and must
-    /// not be replaced, and where it cannot be made; `TargetBusy` where another process writes it; all before
-    /// anything is emptied.
-    ExportFiles(const ExportArguments& given, const ToolEnvironment& environment, const StopRequests& stop);
+    /// Throws `UsageError` where a file that is to be written is one of the `inputs`, where it exists and
+    /// must not be replaced, and where it cannot be made; `TargetBusy` where another process writes it; all
+    /// before anything is emptied.
+    ExportFiles(const ExportArguments& given, const std::vector<InputFile>& inputs,
+                const ToolEnvironment& environment, const StopRequests& stop);
 
     /// The files as the run is to see them.
     FileSystem& Files() { return *staged_; }

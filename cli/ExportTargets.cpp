@@ -3,9 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "cli/InputFiles.h"
 #include "cli/UsageError.h"
-#include "options/MessageTexts.h"
 #include "platform/Path.h"
 #include "run/clsIOHandler.h"
 #include "support/Text.h"
@@ -59,17 +57,6 @@ StagedTarget LogOf(const ExportArguments& given) {
     return target;
 }
 
-std::vector<InputFile> InputsOf(const ExportArguments& given, const ToolEnvironment& environment) {
-    const std::string language =
-        given.language.empty() ? StoredLanguage(environment.profileStore) : given.language;
-    const std::string profile = given.rules.profile.value_or(ProfileBesideProgram(environment));
-    std::vector<InputFile> inputs =
-        CommonInputFiles(environment, language, given.rules.builtIn ? std::string() : profile);
-    inputs.push_back({"the repository", given.repository.file});
-    inputs.push_back({"the table of types", given.repository.typesFile});
-    return inputs;
-}
-
 void RequireApart(const std::vector<StagedTarget>& targets, std::size_t which,
                   const std::vector<InputFile>& inputs) {
     const StagedTarget& target = targets[which];
@@ -86,9 +73,7 @@ std::vector<StagedTarget> TargetsOf(const ExportArguments& given) {
     return {DefinitionOf(given), LogOf(given)};
 }
 
-void RequireTargetsApart(const std::vector<StagedTarget>& targets, const ExportArguments& given,
-                         const ToolEnvironment& environment) {
-    const std::vector<InputFile> inputs = InputsOf(given, environment);
+void RequireTargetsApart(const std::vector<StagedTarget>& targets, const std::vector<InputFile>& inputs) {
     for (std::size_t which = 0; which < targets.size(); ++which) RequireApart(targets, which, inputs);
     if (targets.front().place != StagedPlace::file) return;
     RequireApart(targets, 1, {{"the definition file", targets.front().name}});

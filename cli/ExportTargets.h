@@ -3,8 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "cli/InputFiles.h"
 #include "cli/ToolArguments.h"
-#include "cli/ToolEnvironment.h"
+#include "platform/StagedFiles.h"
 
 namespace wxbrg::cli {
 
@@ -15,10 +16,9 @@ inline constexpr const char* definitionForTheRun = "definition.wpx";
 /// room for the log's.
 std::vector<StagedTarget> TargetsOf(const ExportArguments& given);
 
-/// Throws `UsageError` where a target, or a file that lies beside it for a while, is a file that the export
-/// reads, or where the two targets are one file. Files are told apart by identity, not by name.
-void RequireTargetsApart(const std::vector<StagedTarget>& targets, const ExportArguments& given,
-                         const ToolEnvironment& environment);
+/// Throws `UsageError` where a target, or a file that lies beside it for a while, is one of the inputs, or
+/// where the two targets are one file. Files are told apart by identity, not by name.
+void RequireTargetsApart(const std::vector<StagedTarget>& targets, const std::vector<InputFile>& inputs);
 
 /// Throws `UsageError` where a target that must not be replaced is there.
 void RequireNoneThere(const std::vector<StagedTarget>& targets);

@@ -4,6 +4,7 @@
 #include <array>
 #include <filesystem>
 
+#include "mapping/ProfileFile.h"
 #include "options/MessageTexts.h"
 #include "platform/FileIdentity.h"
 #include "platform/Path.h"
@@ -11,18 +12,15 @@
 namespace wxbrg::cli {
 
 std::vector<InputFile> CommonInputFiles(const ToolEnvironment& environment, const std::string& language,
-                                        const std::string& profile) {
+                                        const std::optional<std::string>& profile) {
     std::vector<InputFile> files;
     for (const std::string& options : environment.optionFiles)
         files.push_back({"the file of the stored options", options});
     files.push_back(
         {"the language library", FileInFolder(environment.programDirectory, LanguageLibraryName(language))});
-    files.push_back({"the mapping profile", profile});
+    files.push_back({"the mapping profile", profile.value_or(ProfileBesideProgram(
+                                                environment.programDirectory, environment.programName))});
     return files;
-}
-
-std::string ProfileBesideProgram(const ToolEnvironment& environment) {
-    return FileInFolder(environment.programDirectory, environment.programName + ".prf");
 }
 
 const InputFile* InputLostBy(const std::string& name, const std::vector<InputFile>& inputs) {

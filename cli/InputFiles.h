@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,12 +15,9 @@ struct InputFile {
 };
 
 /// The files that every run reads, whatever it is given: stored options and the library of a language (its
-/// tag). `profile` is the name of the mapping profile; empty for none.
+/// tag). `profile` is the mapping profile: nothing for the one beside the program, empty for none.
 std::vector<InputFile> CommonInputFiles(const ToolEnvironment& environment, const std::string& language,
-                                        const std::string& profile);
-
-/// The mapping profile beside the program.
-std::string ProfileBesideProgram(const ToolEnvironment& environment);
+                                        const std::optional<std::string>& profile);
 
 /// The input that a run would lose by writing to `name`: the file itself, or one that lies where the file is
 /// staged or kept incomplete. Null for none.

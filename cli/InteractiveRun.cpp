@@ -41,8 +41,8 @@ void ShowCause(const RunReport& report, const Dialogs& dialogs, std::ostream& er
 
 /// The files that the run reads that is on its way.
 std::vector<InputFile> InputsOf(const ToolEnvironment& environment) {
-    std::vector<InputFile> files = CommonInputFiles(environment, StoredLanguage(environment.profileStore),
-                                                    ProfileBesideProgram(environment));
+    std::vector<InputFile> files =
+        CommonInputFiles(environment, StoredLanguage(environment.profileStore), std::nullopt);
     files.push_back({"the repository", environment.databaseFile(RepositoryFolder(environment.profileStore),
                                                                 gBlock.gARISInterface->sDatabase)});
     return files;

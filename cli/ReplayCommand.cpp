@@ -99,7 +99,7 @@ ReadyCase MakeReady(const fs::path& folder, const ToolEnvironment& environment) 
 /// The files that a run of the case reads.
 std::vector<InputFile> InputsOf(const fs::path& folder, const ToolEnvironment& environment,
                                 const ProfileStore& store) {
-    std::vector<InputFile> files = CommonInputFiles(environment, StoredLanguage(store), {});
+    std::vector<InputFile> files = CommonInputFiles(environment, StoredLanguage(store), std::string());
     for (const char* const name :
          {"repository.aml", "command", "options", "machine-options", "answers", "code-page"})
         files.push_back({"a file of the case", TextOf(fs::absolute(folder) / name)});

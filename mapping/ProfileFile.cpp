@@ -6,9 +6,13 @@
 
 namespace wxbrg {
 
+std::string ProfileBesideProgram(const std::string& programDirectory, const std::string& programName) {
+    return FileInFolder(programDirectory, programName + ".prf");
+}
+
 std::string MappingProfilePath(const Platform& platform) {
     return platform.mappingProfile.value_or(
-        FileInFolder(platform.programDirectory, platform.programName + ".prf"));
+        ProfileBesideProgram(platform.programDirectory, platform.programName));
 }
 
 ProfileFile ReadProfileFile(Platform& platform) {

@@ -6,6 +6,9 @@
 
 namespace wxbrg {
 
+/// The mapping profile that counts for every run of a program: the one beside it, which bears its name.
+std::string ProfileBesideProgram(const std::string& programDirectory, const std::string& programName);
+
 /// The name of the mapping profile of a run on a platform; empty where there is to be none.
 std::string MappingProfilePath(const Platform& platform);
 
