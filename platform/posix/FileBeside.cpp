@@ -13,15 +13,13 @@
 #include "platform/FileIdentity.h"
 #include "platform/Path.h"
 #include "platform/posix/FileErrors.h"
+#include "platform/posix/FileWriting.h"
 #include "platform/posix/LockHolder.h"
 #include "support/Failure.h"
 
 namespace wxbrg {
 
 namespace {
-
-constexpr mode_t groupRights = S_IRWXG;
-constexpr mode_t rights = S_IRWXU | S_IRWXG | S_IRWXO;
 
 /// A folder keeps its entries for good only once it is written out itself. Not every system can do that; the
 /// files are in place all the same.
@@ -39,12 +37,6 @@ bool CannotBeDurable(int error) {
 
 std::string Words(int error) {
     return std::generic_category().message(error);
-}
-
-/// Group rights are for the group of the earlier file alone; another group gets what everybody has.
-mode_t WithoutForeignGroup(mode_t mode) {
-    const mode_t everybody = (mode & S_IRWXO) << 3;
-    return (mode & ~groupRights) | (mode & everybody & groupRights);
 }
 
 /// What a system call on a file that was not opened came to.
@@ -66,15 +58,6 @@ bool IsRefusal(int error) {
 
 }  // namespace
 
-void WriteBytesTo(int descriptor, std::string_view bytes, const std::string& name) {
-    while (!bytes.empty()) {
-        const ssize_t count = write(descriptor, bytes.data(), bytes.size());
-        const int error = errno;
-        if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
-        if (count < 0 && error != EINTR) throw FileFailure(error, name);
-    }
-}
-
 FileBeside::FileBeside(const StagedTarget& target)
     : name_(target.name),
       mayReplace_(target.mayReplace),
@@ -86,7 +69,7 @@ FileBeside::FileBeside(const StagedTarget& target)
     RequireWritable();
     while (Make() == Attempt::again) {
     }
-    KeepRights();
+    KeepEarlierRights();
 }
 
 FileBeside::~FileBeside() {
@@ -178,18 +161,13 @@ bool FileBeside::HasItsName() const {
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
-std::string FileBeside::KeepRights() const {
+std::string FileBeside::KeepEarlierRights() const {
     struct stat earlier {};
-    struct stat own {};
-    if (stat(file_.c_str(), &earlier) != 0 || fstat(descriptor_, &own) != 0) return {};
-    const bool group =
-        own.st_gid == earlier.st_gid || fchown(descriptor_, static_cast<uid_t>(-1), earlier.st_gid) == 0;
-    const bool owner =
-        own.st_uid == earlier.st_uid || fchown(descriptor_, earlier.st_uid, static_cast<gid_t>(-1)) == 0;
-    const mode_t mode = earlier.st_mode & rights;
-    if (fchmod(descriptor_, group ? mode : WithoutForeignGroup(mode)) != 0) return Words(errno);
-    if (owner && group) return {};
-    return std::string("its ") + (owner ? "group" : "owner") + " is now another one";
+    if (stat(file_.c_str(), &earlier) != 0) return {};
+    const KeptRights kept = KeepRights(descriptor_, earlier);
+    if (kept.error != 0) return Words(kept.error);
+    if (kept.owner && kept.group) return {};
+    return std::string("its ") + (kept.owner ? "group" : "owner") + " is now another one";
 }
 
 void FileBeside::Empty() {
@@ -199,7 +177,7 @@ void FileBeside::Empty() {
 
 void FileBeside::Append(std::string_view bytes) {
     opened_ = true;
-    WriteBytesTo(descriptor_, bytes, name_);
+    if (const int error = WriteAll(descriptor_, bytes); error != 0) Fail(error);
 }
 
 void FileBeside::MakeReady() {
@@ -226,7 +204,7 @@ void FileBeside::MoveToItsName() const {
 }
 
 std::string FileBeside::PutInPlace() {
-    const std::string lost = KeepRights();
+    const std::string lost = KeepEarlierRights();
     // While the lock is held: behind the move, another run can keep a file of its own under this name.
     unlink(PartialOf(file_).c_str());
     MoveToItsName();

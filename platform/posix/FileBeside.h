@@ -32,7 +32,7 @@ class FileBeside : public StagedFile {
     /// Locks the open file; throws `TargetBusy` where another process has it.
     void Lock() const;
     /// Gives the open file the rights of the earlier one, if there is one. Returns what could not be kept.
-    std::string KeepRights() const;
+    std::string KeepEarlierRights() const;
     void RequireWritable() const;
     void MoveToItsName() const;
     [[noreturn]] void Refuse(int error) const;
@@ -46,8 +46,5 @@ class FileBeside : public StagedFile {
     int descriptor_ = -1;
     bool opened_ = false;  ///< by the run
 };
-
-/// Writes bytes to an open file whose failures bear `name`.
-void WriteBytesTo(int descriptor, std::string_view bytes, const std::string& name);
 
 }  // namespace wxbrg

@@ -12,7 +12,9 @@
 #include <thread>
 #include <utility>
 
+#include "platform/FileIdentity.h"
 #include "platform/Path.h"
+#include "platform/posix/FileWriting.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -114,13 +116,6 @@ void MakeFolder(const fs::path& folder) {
     }
 }
 
-/// The file that a name stands for in the end, with symbolic links resolved.
-fs::path ResolvedFile(const fs::path& file) {
-    std::error_code error;
-    fs::path resolved = fs::canonical(file, error);
-    return error ? file : resolved;
-}
-
 fs::path Beside(const fs::path& file, std::string_view ending) {
     fs::path other = file;
     other += ending;
@@ -168,26 +163,17 @@ void Lock(const Descriptor& lock, const fs::path& file, std::chrono::millisecond
     }
 }
 
-bool WriteAll(const Descriptor& file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = Retried([&] {
-            return write(file.Number(), bytes.data(), bytes.size());
-        });
-        if (count < 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
+/// Gives a new file the rights of the one that it replaces, if there is one.
+bool CopyRights(const fs::path& from, const Descriptor& to) {
+    struct stat earlier {};
+    if (stat(from.c_str(), &earlier) != 0) return errno == ENOENT;
+    errno = KeepRights(to.Number(), earlier).error;
+    return errno == 0;
 }
 
-/// Gives a new file the permissions of the one that it replaces, if there is one. Only the superuser can hand
-/// over the owner as well; where that fails the writer owns the file, as with every other file it makes.
-bool CopyPermissions(const fs::path& from, const Descriptor& to) {
-    struct stat status {};
-    if (stat(from.c_str(), &status) != 0) return errno == ENOENT;
-    const bool owned = fchown(to.Number(), status.st_uid, status.st_gid) == 0;
-    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
-    constexpr mode_t own = S_IRWXU | S_IRGRP | S_IROTH;
-    return fchmod(to.Number(), status.st_mode & (owned ? permissions : own)) == 0;
+bool WriteBytes(const Descriptor& file, std::string_view bytes) {
+    errno = WriteAll(file.Number(), bytes);
+    return errno == 0;
 }
 
 bool MakeDurable(const Descriptor& file) {
@@ -203,8 +189,8 @@ void PutInPlace(const fs::path& file, std::string_view bytes) {
     if (unlink(fresh.c_str()) != 0 && errno != ENOENT) Fail(fresh, "cannot be taken away", errno);
     Descriptor written(fresh, O_WRONLY | O_CREAT | O_EXCL, 0666);
     if (!written.IsOpen()) Fail(fresh, "cannot be made", errno);
-    const bool complete = CopyPermissions(file, written) && WriteAll(written, bytes) &&
-                          MakeDurable(written) && written.Close() && rename(fresh.c_str(), file.c_str()) == 0;
+    const bool complete = CopyRights(file, written) && WriteBytes(written, bytes) && MakeDurable(written) &&
+                          written.Close() && rename(fresh.c_str(), file.c_str()) == 0;
     if (complete) return;
     const int error = errno;
     unlink(fresh.c_str());

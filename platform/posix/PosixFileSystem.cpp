@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/posix/FileErrors.h"
+#include "platform/posix/FileWriting.h"
 #include "support/Failure.h"
 
 namespace wxbrg {
@@ -54,11 +55,7 @@ std::string PosixFile::ReadAll() {
 }
 
 void PosixFile::Write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = write(descriptor_, bytes.data(), bytes.size());
-        if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
-        if (count < 0 && errno != EINTR) Fail(errno);
-    }
+    if (const int error = WriteAll(descriptor_, bytes); error != 0) Fail(error);
 }
 
 void PosixFile::Close() {

@@ -14,6 +14,7 @@
 #include "platform/Path.h"
 #include "platform/posix/FileBeside.h"
 #include "platform/posix/FileErrors.h"
+#include "platform/posix/FileWriting.h"
 #include "support/Failure.h"
 
 namespace wxbrg {
@@ -42,13 +43,16 @@ class FileForStream : public StagedFile {
     void Empty() override {
         if (ftruncate(descriptor_, 0) != 0 || lseek(descriptor_, 0, SEEK_SET) != 0) Fail(errno);
     }
-    void Append(std::string_view bytes) override { WriteBytesTo(descriptor_, bytes, name_); }
+    void Append(std::string_view bytes) override { Write(descriptor_, bytes); }
     void MakeReady() override {}
     std::string PutInPlace() override;
     std::optional<std::string> Abandon() override { return std::nullopt; }
 
   private:
     [[noreturn]] void Fail(int error) const { throw FileFailure(error, name_); }
+    void Write(int descriptor, std::string_view bytes) const {
+        if (const int error = WriteAll(descriptor, bytes); error != 0) Fail(error);
+    }
     int OpenStream() const;
     void CopyTo(int stream) const;
 
@@ -92,7 +96,7 @@ void FileForStream::CopyTo(int stream) const {
         const int error = errno;
         if (count == 0) return;
         if (count < 0 && error != EINTR) Fail(error);
-        if (count > 0) WriteBytesTo(stream, {block.data(), static_cast<std::size_t>(count)}, name_);
+        if (count > 0) Write(stream, {block.data(), static_cast<std::size_t>(count)});
         stop_.Check();
     }
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string_view>
+
+namespace wxbrg {
+
+/// Writes all bytes to an open file, however many calls and interruptions that takes. Returns 0, or the
+/// system's error number.
+int WriteAll(int descriptor, std::string_view bytes);
+
+/// What an open file has taken over from an earlier one.
+struct KeptRights {
+    bool owner = false;
+    bool group = false;
+    int error = 0;  ///< the system's error number where not even the permissions could be set
+};
+
+/// Gives an open file the owner, the group and the permissions of the earlier one that it is to replace, as
+/// far as the system lets the user. Where the group cannot be kept, another group gets no more than everybody
+/// has.
+KeptRights KeepRights(int descriptor, const struct stat& earlier);
+
+}  // namespace wxbrg
