@@ -15,6 +15,7 @@
 #include "platform/FileIdentity.h"
 #include "platform/Path.h"
 #include "platform/posix/FileWriting.h"
+#include "support/ErrorAdvice.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -60,40 +61,10 @@ std::string NameOf(const fs::path& file) {
     return name.size() <= longest ? name : std::string(WithinBytes(name, longest)) + "…";
 }
 
-/// What the user can do about an error of the system.
-std::string_view WayOut(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM:
-            return "Allow yourself to use the file and the folders on its way.";
-        case EMFILE:
-        case ENFILE:
-            return "Close other files and programs, or raise the limit of open files.";
-        case ENOSPC:
-        case EDQUOT:
-            return "Make room on the disk.";
-        case EROFS:
-            return "Make the file system writable.";
-        case ENAMETOOLONG:
-            return "Give the folder a shorter path.";
-        case ENOTDIR:
-        case ELOOP:
-            return "Correct the path: a name on its way is no folder.";
-        case EIO:
-            return "Check the disk.";
-        default:
-            return "Repair the file or move it away.";
-    }
-}
-
 [[noreturn]] void Fail(const fs::path& file, std::string_view what, int error) {
-    throw FileUseError(NameOf(file)
-                           .append(" ")
-                           .append(what)
-                           .append(": ")
-                           .append(std::generic_category().message(error))
-                           .append(". ")
-                           .append(WayOut(error)));
+    const std::error_code cause(error, std::generic_category());
+    throw FileUseError(NameOf(file) + ' ' + std::string(what) + ": " + cause.message() + ". " +
+                       std::string(AdviceOn(cause)));
 }
 
 [[noreturn]] void FailAsUnfit(const fs::path& file, std::string_view cause) {

@@ -19,8 +19,7 @@ using testing::StartsWith;
 
 TEST(CauseText, NamesFileCauseAndWhatToDo) {
     EXPECT_EQ(CauseText(FailureCause::OfSystem(ENOSPC, "out.wpx")),
-              "out.wpx: No space left on device (28). Free some space or write to another disk, then export "
-              "again.");
+              "out.wpx: No space left on device (28). Free some space or use another disk.");
     EXPECT_THAT(CauseText(FailureCause::OfMemory()), StartsWith("Cannot allocate memory (12). "));
 }
 

@@ -78,7 +78,7 @@ TEST_F(StoredOptionsProgram, APathBeyondWhatTheSystemTakesEndsAtOnce) {
     environment["XDG_CONFIG_HOME"] = deep;
     const ProcessResult result = Run({"options", "set", "ConvertNames", "0"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, HasSubstr("File name too long. Give the folder a shorter path."));
+    EXPECT_THAT(result.err, HasSubstr("File name too long. Use a shorter name or path."));
     EXPECT_LT(result.err.size(), 1000U);
 }
 

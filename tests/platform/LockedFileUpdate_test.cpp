@@ -147,7 +147,7 @@ TEST_F(ReplacedFileTest, WhatIsNoRegularFileIsNotRead) {
 
 TEST_F(ReplacedFileTest, WhatIsThereButCannotBeReadIsNamedWithItsCause) {
     std::filesystem::create_symlink("/proc/self/mem", file_);
-    ExpectUnreadable(file_, "Input/output error. Check the disk.");
+    ExpectUnreadable(file_, "Input/output error. Check the disk and its connection.");
     std::filesystem::create_symlink("circle", folder_ / "circle");
     ExpectUnreadable(folder_ / "circle", "symbolic links");
     WriteBytes(folder_ / "plain", "");
@@ -222,7 +222,7 @@ TEST_F(ReplacedFileTest, APathTooLongForTheSystemIsRefusedAtOnce) {
     std::string name = folder_.Path();
     for (int i = 0; i < 60'000; ++i) name += "/a";
     file_ = name;
-    ExpectRefused("File name too long. Give the folder a shorter path.");
+    ExpectRefused("File name too long. Use a shorter name or path.");
     ExpectUnreadable(file_, "File name too long");
 }
 
