@@ -49,7 +49,8 @@ struct TargetBusy : std::runtime_error {
 class StagedFiles : public FileSystem {
   public:
     /// Makes the files durable and moves them to their names, the last target first and the first target
-    /// last. Access rights of an earlier file are kept, and its owner where the system lets the user set it.
+    /// last; a stream among the targets gets its bytes before any file is moved, for it can fail half way.
+    /// Access rights of an earlier file are kept, and its owner where the system lets the user set it.
     /// Returns a text on each thing that could not be kept. Throws `Failure` where a file cannot be put in
     /// place; `Abandon` is to follow.
     virtual std::vector<std::string> PutInPlace() = 0;

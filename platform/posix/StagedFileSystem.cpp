@@ -45,9 +45,11 @@ class StagedFileSystem : public StagedFiles {
         for (const auto& [name, file] : staged_) file->MakeReady();
         stop_.Check();
         std::vector<std::string> remarks;
-        for (auto staged = staged_.rbegin(); staged != staged_.rend(); ++staged)
-            if (std::string remark = staged->second->PutInPlace(); !remark.empty())
-                remarks.push_back(std::move(remark));
+        for (const bool streams : {true, false})
+            for (auto staged = staged_.rbegin(); staged != staged_.rend(); ++staged)
+                if (staged->second->IsStream() == streams)
+                    if (std::string remark = staged->second->PutInPlace(); !remark.empty())
+                        remarks.push_back(std::move(remark));
         return remarks;
     }
 

@@ -45,6 +45,7 @@ class FileForStream : public StagedFile {
     }
     void Append(std::string_view bytes) override { Write(descriptor_, bytes); }
     void MakeReady() override {}
+    bool IsStream() const override { return true; }
     std::string PutInPlace() override;
     std::optional<std::string> Abandon() override { return std::nullopt; }
 

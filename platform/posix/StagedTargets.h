@@ -18,6 +18,8 @@ class StagedFile {
     virtual void Append(std::string_view bytes) = 0;
     /// Does all that can fail and that nobody sees yet.
     virtual void MakeReady() = 0;
+    /// Whether the target gets bytes, which can fail half way, and not a file that is complete.
+    virtual bool IsStream() const { return false; }
     /// Gives the file its name, or the target its bytes. Returns what could not be kept of an earlier file;
     /// empty where all was.
     virtual std::string PutInPlace() = 0;

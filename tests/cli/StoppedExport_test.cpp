@@ -72,12 +72,14 @@ TEST(StoppedExportProgram, WaitingForTheReaderOfAPipeIsStopped) {
         using ProgramTest::WriteOneModel;
     } test;
     test.WriteOneModel();
-    const std::string script = std::string("mkfifo pipe; ") + WXBRG_PROGRAM +
-                               " export one.aml -o pipe --log out.log & "
-                               "until [ -e out.log ]; do sleep 0.01; done; kill -TERM $!; wait $!";
+    const std::string script =
+        std::string("mkfifo pipe; ") + WXBRG_PROGRAM +
+        " export one.aml -o pipe --log out.log & "
+        "until grep -qs WXB03110I .out.log.wxbrg-new; do sleep 0.01; done; kill -TERM $!; wait $!";
     const ProcessResult result = RunProcess({"sh", "-c", script}, {"", test.folder.Path(), test.environment});
     EXPECT_EQ(result.status, 128 + SIGTERM) << result.err;
     EXPECT_THAT(result.err, HasSubstr("The export is not complete: pipe was not written"));
+    EXPECT_FALSE(std::filesystem::exists(test.folder / "out.log"));
 }
 
 }  // namespace

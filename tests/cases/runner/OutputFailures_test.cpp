@@ -64,9 +64,12 @@ TEST_F(OutputFailures, ADiskThatIsFullForTheLogKeepsTheDefinitionAsAPartialFile)
     EXPECT_THAT(folder_.Read("out.wpx.partial"), HasSubstr("END 'Orders'"));
 }
 
-TEST_F(OutputFailures, ADiskThatIsFullForTheDefinitionFileIsReported) {
+TEST_F(OutputFailures, ADiskThatIsFullForTheDefinitionFileKeepsTheLogAsAPartialFile) {
     MakeFull("out.wpx");
+    folder_.Write("out.log", "of yesterday");
     ExpectEnd(Export("out.wpx"), 1, "disk full: out.wpx");
+    EXPECT_EQ(folder_.Read("out.log"), "of yesterday");
+    EXPECT_EQ(folder_.Read("out.log.partial"), ExpectedFiles(simple_).at("out.log"));
 }
 
 }  // namespace
