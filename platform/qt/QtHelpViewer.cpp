@@ -15,8 +15,10 @@ QtHelpViewer::~QtHelpViewer() {
 void QtHelpViewer::ShowPage(std::string_view helpFile, std::int32_t number) {
     OpenSession(language_);
     const std::string path = FileInFolder(directory_, helpFile);
-    if (window_ && window_->Path() != path) delete window_;
-    if (!window_) window_ = new HelpWindow(path, QApplication::activeModalWidget());
+    if (window_ == nullptr || window_->Path() != path) {
+        delete window_.data();
+        window_ = new HelpWindow(path, QApplication::activeModalWidget());
+    }
     window_->ShowPage(number);
     window_->show();
     window_->raise();

@@ -11,7 +11,7 @@ namespace wxbrg {
 class HelpWindow;
 
 /// The help in a window of its own, which stays open beside the dialog that it was called from, and goes with
-/// it. The titles of all pages is beside the page; links lead to other pages.
+/// it. The titles of all pages are beside the page; links lead to other pages.
 class QtHelpViewer : public HelpViewer {
   public:
     /// `language` is the tag of the language of the window's own words, `directory` the folder of the help

@@ -31,7 +31,7 @@ std::string PlainLine(std::string_view line) {
     const std::size_t level = line.starts_with('#') ? line.find_first_not_of('#') : 0;
     if (level == std::string_view::npos) return {};
     line.remove_prefix(level);
-    const std::string text = Replace(Replace(WithoutTargets(line), "**", ""), "`", "");
+    std::string text = Replace(Replace(WithoutTargets(line), "**", ""), "`", "");
     if (level == 0) return text;
     const std::string heading(Trim(text));
     return heading + '\n' + std::string(CharacterCount(heading), level == 1 ? '=' : '-');
