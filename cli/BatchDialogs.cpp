@@ -8,7 +8,7 @@ namespace wxbrg::cli {
 
 BoxAnswer PrintingMessageBox::Show(std::string_view title, std::string_view text, std::int32_t buttons) {
     progress_.Report({}, 0, 0);
-    out_ << Printable(title) << '\n' << PrintableLines(text, "\r\n") << '\n' << std::flush;
+    out_ << Printable(title) << '\n' << PrintableLines(text, "\r\n", boxIndent) << '\n' << std::flush;
     return (buttons & BoxStyle::buttonSet) == BoxStyle::yesNo ? BoxAnswer::yes : BoxAnswer::ok;
 }
 

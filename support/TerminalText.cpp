@@ -62,13 +62,16 @@ std::string Printable(std::string_view text) {
     return shown;
 }
 
-std::string PrintableLines(std::string_view text, std::string_view lineEnd) {
+std::string PrintableLines(std::string_view text, std::string_view lineEnd, std::string_view indent) {
     std::string shown;
-    for (std::size_t end = text.find(lineEnd); end != std::string_view::npos; end = text.find(lineEnd)) {
-        shown.append(Printable(text.substr(0, end))).append(1, '\n');
+    for (;;) {
+        const std::size_t end = text.find(lineEnd);
+        const std::string_view line = text.substr(0, end);
+        if (!line.empty()) shown.append(indent).append(Printable(line));
+        if (end == std::string_view::npos) return shown;
+        shown.append(1, '\n');
         text.remove_prefix(end + lineEnd.size());
     }
-    return shown.append(Printable(text));
 }
 
 std::string PrintableField(std::string_view text) {

@@ -18,9 +18,12 @@ bool IsPrintable(char32_t character);
 /// What is printable already stays as it is.
 std::string Printable(std::string_view text);
 
-/// Likewise for a text of several lines, with `lineEnd` between them; they are shown with LF. Other line
-/// breaks are shown by their numbers.
-std::string PrintableLines(std::string_view text, std::string_view lineEnd);
+/// Likewise for a text of several lines, with `lineEnd` between them; they are shown with LF, and with
+/// `indent` in front of those that are not empty. Other line breaks are shown by their numbers.
+std::string PrintableLines(std::string_view text, std::string_view lineEnd, std::string_view indent = {});
+
+/// In front of the lines of a box: a line end in a name that the box shows begins no line of the program's.
+inline constexpr std::string_view boxIndent = "  ";
 
 /// Likewise as one field of a line of fields: tabs and line breaks (CR LF, CR or LF) become blanks.
 std::string PrintableField(std::string_view text);

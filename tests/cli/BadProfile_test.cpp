@@ -5,6 +5,7 @@
 #include <regex>
 #include <string>
 
+#include "support/TerminalText.h"
 #include "support/Text.h"
 #include "tests/cli/ProgramFixture.h"
 
@@ -54,8 +55,8 @@ class BadProfileTest : public ProgramTest, public testing::WithParamInterface<Ba
         std::string printed;
         for (std::sregex_iterator found(transcript.begin(), transcript.end(), box), end; found != end;
              ++found)
-            printed += Replace(Replace((*found)[1].str() + "\n" + (*found)[2].str() + "\n", R"(\r\n)", "\n"),
-                               R"(\")", "\"");
+            printed += (*found)[1].str() + "\n" +
+                       PrintableLines(Replace((*found)[2].str(), R"(\")", "\""), R"(\r\n)", boxIndent) + "\n";
         return printed;
     }
 };

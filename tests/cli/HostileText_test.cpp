@@ -12,13 +12,13 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-/// What a terminal would obey, and what would forge a line, as far as XML takes it. CR LF is missing: a box
-/// has it between its own lines.
+/// What a terminal would obey, and what would forge a line, as far as XML takes it.
 const std::string hostileXml =
-    "\x7F\u009B31m\u009D0;t\u0085\u2028\u2029\u202E\u2066\u200F\u061C&#10;FORGED &#13;FORGED";
+    "\x7F\u009B31m\u009D0;t\u0085\u2028\u2029\u202E\u2066\u200F\u061C&#10;FORGED &#13;FORGED "
+    "&#13;&#10;FORGED";
 /// Likewise with what arguments and files take besides.
 const std::string hostile =
-    "\x1B[2J\x07\x7F\u009B31m\u0085\u2028\u2029\u202E\u2066\u200F\u061C\xFF\nFORGED \rFORGED";
+    "\x1B[2J\x07\x7F\u009B31m\u0085\u2028\u2029\u202E\u2066\u200F\u061C\xFF\nFORGED \rFORGED \r\nFORGED";
 
 /// Expects printable text, in lines that the program has begun.
 void ExpectPrintable(const std::string& text, const std::string& what) {

@@ -64,7 +64,7 @@ class TerminalMessageBoxTest : public testing::Test {
 TEST_F(TerminalMessageBoxTest, ShowsTitleAndWholeText) {
     Show("\n", BoxStyle::ok);
     EXPECT_THAT(out.str(), HasSubstr("The title\n"));
-    EXPECT_THAT(out.str(), HasSubstr("The text\nin two lines\n"));
+    EXPECT_THAT(out.str(), HasSubstr("\n  The text\n  in two lines\n"));
 }
 
 TEST_F(TerminalMessageBoxTest, QuestionsAreAnsweredYesOrNo) {

@@ -63,7 +63,7 @@ TEST(PrintingMessageBox, PrintsTitleAndTextWholeBehindTheProgressLine) {
     NotingProgress progress;
     PrintingMessageBox box(out, progress);
     EXPECT_EQ(box.Show("Title", "Warning WXB02060E \r\nline two", 65584), BoxAnswer::ok);
-    EXPECT_EQ(out.str(), "Title\nWarning WXB02060E \nline two\n");
+    EXPECT_EQ(out.str(), "Title\n  Warning WXB02060E \n  line two\n");
     EXPECT_EQ(progress.last, "");
 }
 

@@ -46,6 +46,7 @@ TEST(PrintableLines, KeepsTheLineEndsOfItsOwnAndNoOthers) {
     EXPECT_EQ(PrintableLines("a\r\nb\nc\rd\r\n", "\r\n"), "a\nb\\u{A}c\\u{D}d\n");
     EXPECT_EQ(PrintableLines("a\nb\r\n\x1B", "\n"), "a\nb\\u{D}\n\\u{1B}");
     EXPECT_EQ(PrintableLines("", "\n"), "");
+    EXPECT_EQ(PrintableLines("a\n\nb", "\n", "> "), "> a\n\n> b");
 }
 
 TEST(PrintableField, HoldsNeitherTabsNorLineBreaks) {

@@ -8,8 +8,8 @@
 
 namespace wxbrg {
 
-void Terminal::Print(std::string_view text) {
-    out_ << PrintableLines(text, "\r\n") << '\n';
+void Terminal::Print(std::string_view text, std::string_view indent) {
+    out_ << PrintableLines(text, "\r\n", indent) << '\n';
 }
 
 void Terminal::Beep() {

@@ -14,8 +14,8 @@ class Terminal {
     Terminal(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
 
     /// Prints a text and a line end; CR LF inside it becomes the stream's own line end. What a terminal would
-    /// obey is shown by its number, here and in prompts.
-    void Print(std::string_view text);
+    /// obey is shown by its number, here and in prompts. `indent` comes in front of each line.
+    void Print(std::string_view text, std::string_view indent = {});
 
     /// Makes the terminal sound.
     void Beep();

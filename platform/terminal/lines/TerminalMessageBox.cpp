@@ -1,5 +1,6 @@
 #include "platform/terminal/lines/TerminalMessageBox.h"
 
+#include "support/TerminalText.h"
 #include "support/Text.h"
 
 namespace wxbrg {
@@ -7,7 +8,7 @@ namespace wxbrg {
 BoxAnswer TerminalMessageBox::Show(std::string_view title, std::string_view text, std::int32_t buttons) {
     terminal_.Print("");
     terminal_.Print("--- " + std::string(title));
-    terminal_.Print(text);
+    terminal_.Print(text, boxIndent);
     switch (buttons & BoxStyle::buttonSet) {
         case BoxStyle::yesNo:
             return terminal_.AskYesOrNo("Yes or no?").value_or(true) ? BoxAnswer::yes : BoxAnswer::no;
