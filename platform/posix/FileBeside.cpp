@@ -164,10 +164,11 @@ bool FileBeside::HasItsName() const {
 std::string FileBeside::KeepEarlierRights() const {
     struct stat earlier {};
     if (stat(file_.c_str(), &earlier) != 0) return {};
-    const KeptRights kept = KeepRights(descriptor_, earlier);
+    const KeptRights kept = KeepRights(descriptor_, file_, earlier);
     if (kept.error != 0) return Words(kept.error);
-    if (kept.owner && kept.group) return {};
-    return std::string("its ") + (kept.owner ? "group" : "owner") + " is now another one";
+    if (!kept.owner) return "its owner is now another one";
+    if (!kept.group) return "its group is now another one";
+    return kept.accessList ? "" : "its access list could not be kept";
 }
 
 void FileBeside::Empty() {

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <string_view>
 
 namespace wxbrg {
@@ -14,12 +15,13 @@ int WriteAll(int descriptor, std::string_view bytes);
 struct KeptRights {
     bool owner = false;
     bool group = false;
+    bool accessList = false;
     int error = 0;  ///< the system's error number where not even the permissions could be set
 };
 
-/// Gives an open file the owner, the group and the permissions of the earlier one that it is to replace, as
-/// far as the system lets the user. Where the group cannot be kept, another group gets no more than everybody
-/// has.
-KeptRights KeepRights(int descriptor, const struct stat& earlier);
+/// Gives an open file the owner, the group, the access list and the permissions of the earlier one that it is
+/// to replace, as far as the system lets the user. Where the group cannot be kept, another group gets no more
+/// than everybody has. `earlier` is the state of `file`.
+KeptRights KeepRights(int descriptor, const std::filesystem::path& file, const struct stat& earlier);
 
 }  // namespace wxbrg

@@ -15,6 +15,7 @@
 #include "platform/FileIdentity.h"
 #include "platform/Path.h"
 #include "platform/posix/FileWriting.h"
+#include "platform/posix/LockHolder.h"
 #include "support/ErrorAdvice.h"
 #include "support/Text.h"
 
@@ -115,6 +116,11 @@ void RequireUsableSize(const fs::path& file, std::size_t size) {
     if (size > largestUsableFile) FailAsUnfit(file, "holds more than 16 MiB");
 }
 
+std::string HolderOf(const Descriptor& lock) {
+    struct stat status {};
+    return fstat(lock.Number(), &status) == 0 ? LockHolder(status) : "another process";
+}
+
 /// Takes the lock of a lock file that was just opened, and waits until others have released it. The system
 /// has no call that waits for some time only.
 void Lock(const Descriptor& lock, const fs::path& file, std::chrono::milliseconds patience) {
@@ -127,9 +133,8 @@ void Lock(const Descriptor& lock, const fs::path& file, std::chrono::millisecond
            }) != 0) {
         if (errno != EWOULDBLOCK) Fail(file, "cannot be locked", errno);
         if (std::chrono::steady_clock::now() >= end)
-            throw FileLockedError("The lock file " + NameOf(file) +
-                                  " is held by another program, which has not released it in time. "
-                                  "Wait for that program or end it.");
+            throw FileLockedError("The lock file " + NameOf(file) + " is held by " + HolderOf(lock) +
+                                  ", which has not released it in time. Wait for it or end it.");
         std::this_thread::sleep_for(pause);
     }
 }
@@ -138,7 +143,7 @@ void Lock(const Descriptor& lock, const fs::path& file, std::chrono::millisecond
 bool CopyRights(const fs::path& from, const Descriptor& to) {
     struct stat earlier {};
     if (stat(from.c_str(), &earlier) != 0) return errno == ENOENT;
-    errno = KeepRights(to.Number(), earlier).error;
+    errno = KeepRights(to.Number(), from, earlier).error;
     return errno == 0;
 }
 

@@ -193,7 +193,7 @@ TEST_F(ReplacedFileTest, ALockThatIsNotReleasedIsNamed) {
     EXPECT_THAT(CauseOf([&] {
                     ReplaceFile(file_, NewBytes, std::chrono::milliseconds());
                 }),
-                HasSubstr(lock + " is held by another program"));
+                HasSubstr(lock + " is held by process " + std::to_string(getpid())));
     ASSERT_EQ(close(held), 0);
     Replace(NewBytes);
 }

@@ -4,12 +4,18 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 
 #include "tests/TemporaryFolder.h"
+#include "tests/platform/OtherUser.h"
 #include "tests/support/FailureMatcher.h"
 
 /// Room for an exception, from the library. `errno` is set on the way, as an allocation may do that succeeds
@@ -61,6 +67,77 @@ TEST(PosixFileSystem, TheSystemsErrorIsKeptFromTheMomentItArose) {
             full->Write("x");
         },
         FailsBy(61, ENOSPC, "/dev/full"));
+}
+
+TEST(PosixFileSystem, AFileWithoutRightsIs75WithItsCause) {
+    const TemporaryFolder folder;
+    const std::string file = folder.Write("private", "x");
+    ASSERT_EQ(chmod(file.c_str(), 0600), 0);
+    ASSERT_EQ(chmod(folder.Path().c_str(), 0755), 0);
+    const OtherUser other;
+    if (!other.IsInForce()) GTEST_SKIP() << "only the superuser can act as another user";
+    PosixFileSystem system;
+    EXPECT_THAT(
+        [&] {
+            system.Open(file, FileAccess::read);
+        },
+        FailsBy(75, EACCES, file));
+}
+
+/// Interrupts the process every millisecond until it goes, and writes a byte to a pipe at the fifth time.
+class Interruptions {
+  public:
+    explicit Interruptions(int pipe) {
+        count_ = 0;
+        pipe_ = pipe;
+        struct sigaction counting {};
+        counting.sa_handler = [](int) {
+            count_ = count_ + 1;
+            if (count_ == 5 && write(pipe_, "x", 1) != 1) _exit(EXIT_FAILURE);
+        };
+        sigaction(SIGALRM, &counting, &before_);
+        const struct itimerval everyMillisecond {
+            {0, 1000}, { 0, 1000 }
+        };
+        setitimer(ITIMER_REAL, &everyMillisecond, nullptr);
+    }
+    ~Interruptions() {
+        const struct itimerval never {};
+        setitimer(ITIMER_REAL, &never, nullptr);
+        sigaction(SIGALRM, &before_, nullptr);
+    }
+    Interruptions(const Interruptions&) = delete;
+    Interruptions& operator=(const Interruptions&) = delete;
+
+  private:
+    static inline volatile std::sig_atomic_t count_ = 0;
+    static inline volatile std::sig_atomic_t pipe_ = -1;
+    struct sigaction before_ {};
+};
+
+TEST(PosixFileSystem, ReadingGoesOnBehindInterruptions) {
+    const TemporaryFolder folder;
+    const std::string file = folder.NameOf("pipe");
+    std::array<int, 2> interrupted{};
+    ASSERT_EQ(mkfifo(file.c_str(), S_IRWXU), 0);
+    ASSERT_EQ(pipe(interrupted.data()), 0);
+    const pid_t writer = fork();
+    if (writer == 0) {
+        const int end = open(file.c_str(), O_WRONLY);
+        char byte = 0;
+        const bool wasWaitedFor = read(interrupted[0], &byte, 1) == 1;
+        _exit(wasWaitedFor && write(end, "bytes", 5) == 5 ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    PosixFileSystem system;
+    const auto opened = system.Open(file, FileAccess::read);
+    {
+        const Interruptions interruptions(interrupted[1]);
+        EXPECT_EQ(opened->ReadAll(), "bytes");
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(writer, &status, 0), writer);
+    EXPECT_EQ(status, 0);
+    for (const int end : interrupted) close(end);
 }
 
 TEST(PosixFileSystem, AFullDiskIs61WithTheFilesName) {

@@ -175,7 +175,8 @@ TEST_F(PosixProfileStoreTest, ALockHeldByAnotherIsWaitedForOnce) {
     PosixProfileStore store({file_, {}}, std::chrono::milliseconds(20));
     EXPECT_FALSE(store.Write(key, "Number", 1));
     EXPECT_FALSE(store.Write(key, "Other", 1));
-    EXPECT_THAT(store.TakeWriteProblem(), HasSubstr(lock + " is held by another program"));
+    EXPECT_THAT(store.TakeWriteProblem(),
+                HasSubstr(lock + " is held by process " + std::to_string(getpid())));
     ASSERT_EQ(close(held), 0);
     EXPECT_TRUE(store.Write(key, "Number", 1));
 }
