@@ -95,6 +95,9 @@ BatchParts PartsOf(const ExportArguments& given, const ToolEnvironment& environm
                    std::make_unique<StoppingProgress>(environment.progress(), stop),
                    ChosenProfile(given.rules, environment.fileSystem)};
     PutSettings(given, own.profileStore);
+    if (own.mappingProfile && IsPipe(*own.mappingProfile))
+        throw UsageError("The mapping profile " + *own.mappingProfile +
+                         " is a pipe, and an export reads the profile more than once; name a file.");
     return own;
 }
 

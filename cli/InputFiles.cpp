@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <system_error>
 
 #include "mapping/ProfileFile.h"
 #include "options/MessageTexts.h"
@@ -33,6 +34,16 @@ const InputFile* InputLostBy(const std::string& name, const std::vector<InputFil
                });
     });
     return lost == inputs.end() ? nullptr : &*lost;
+}
+
+bool IsPipe(const std::string& name) {
+    std::error_code error;
+    return std::filesystem::is_fifo(PathOf(name), error);
+}
+
+bool IsNamedPipe(const std::string& name) {
+    std::error_code error;
+    return IsPipe(name) && !std::filesystem::canonical(PathOf(name), error).empty();
 }
 
 }  // namespace wxbrg::cli

@@ -23,4 +23,11 @@ std::vector<InputFile> CommonInputFiles(const ToolEnvironment& environment, cons
 /// staged or kept incomplete. Null for none.
 const InputFile* InputLostBy(const std::string& name, const std::vector<InputFile>& inputs);
 
+/// Whether a file is a pipe.
+bool IsPipe(const std::string& name);
+
+/// Whether a file is a pipe with a name of its own (mkfifo): not what a shell makes of <(command), which has
+/// its writer already.
+bool IsNamedPipe(const std::string& name);
+
 }  // namespace wxbrg::cli

@@ -2,14 +2,27 @@
 
 #include <algorithm>
 #include <new>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "cli/InputFiles.h"
 #include "cli/UsageError.h"
 #include "support/Failure.h"
+#include "support/TerminalText.h"
 
 namespace wxbrg::cli {
+
+namespace {
+
+/// Reports which of the files that are about to be read are waited for until somebody writes to them.
+void ReportPipes(const RepositoryArguments& given, std::ostream& err) {
+    for (const std::string& file : {given.typesFile, given.file})
+        if (IsNamedPipe(file)) err << "wxbrg: " << Printable(file) << " is a pipe: waiting for its writer.\n";
+}
+
+}  // namespace
 
 aris::LoadProgress ProgressOf(Progress& progress, const std::string& repository) {
     return [&progress, stage = "reading " + repository](std::uint64_t done, std::uint64_t total) {
@@ -24,11 +37,17 @@ OpenedRepository OpenRepository(const RepositoryArguments& given, const ToolEnvi
     request.typesFile = given.typesFile;
     request.progress = ProgressOf(progress, given.file);
     OpenedRepository opened;
+    ReportPipes(given, environment.err);
     try {
         opened.catalogue = environment.openRepository(request);
     } catch (const std::bad_alloc&) {
         throw Failure(FailureKind::outOfMemory, "reading " + given.file)
             .Because(FailureCause::OfMemory(given.file));
+    } catch (const Failure&) {
+        // A request to stop interrupts the waiting for a pipe; it, not the failure, is to be reported.
+        request.progress(0, 0);
+        progress.Report({}, 0, 0);
+        throw;
     }
     opened.locale = ChooseLocale(*opened.catalogue, given.locale);
     return opened;

@@ -1,6 +1,7 @@
 #include "cli/RuleChoice.h"
 
 #include "cli/CauseText.h"
+#include "cli/InputFiles.h"
 #include "cli/UsageError.h"
 #include "support/Failure.h"
 
@@ -10,6 +11,9 @@ std::optional<std::string> ChosenProfile(const RuleArguments& given, FileSystem&
     if (given.builtIn) return std::string();
     if (!given.profile) return std::nullopt;
     if (given.profile->empty()) throw UsageError("The name of the mapping profile is empty; name a file.");
+    if (IsNamedPipe(*given.profile))
+        throw UsageError("The mapping profile " + *given.profile +
+                         " is a pipe, and a profile is opened more than once; name a file.");
     try {
         files.Open(*given.profile, FileAccess::read)->Close();
     } catch (const Failure& failure) {

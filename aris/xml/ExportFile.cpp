@@ -22,15 +22,17 @@ namespace fs = std::filesystem;
         .Because(FailureCause::OfSystem(error.value(), name));
 }
 
-/// Opens a file, which shows in the stream; returns the system's error number where it cannot.
+/// Opens a file, which shows in the stream; returns the system's error number where it cannot. A signal ends
+/// the waiting for the writer of a pipe, which may never come.
 int Open(std::ifstream& stream, const fs::path& path) {
     int error = 0;
+    std::error_code ignored;
     do {
         stream.clear();
         errno = 0;
         stream.open(path, std::ios::binary);
         error = errno;
-    } while (!stream.is_open() && error == EINTR);
+    } while (!stream.is_open() && error == EINTR && !fs::is_fifo(path, ignored));
     return error;
 }
 

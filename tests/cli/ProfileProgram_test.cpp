@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "tests/cli/ProgramFixture.h"
 
@@ -198,6 +199,23 @@ TEST_F(ProfileProgram, CheckReadsAnEmptyFileAndAPipe) {
         RunProcess({"bash", "-c", "\"$0\" profile check <(\"$0\" profile print --default)", WXBRG_PROGRAM},
                    {"", folder.Path(), environment});
     EXPECT_EQ(pipe.status, 0) << pipe.out << pipe.err;
+}
+
+TEST_F(ProfileProgram, APipeThatWouldBeOpenedTwiceIsRefused) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), S_IRWXU), 0);
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"profile", "check", "pipe"},
+          {"export", "one.aml", "-o", "out.wpx", "--profile", "pipe"}}) {
+        const ProcessResult named = RunHere(arguments);
+        EXPECT_EQ(named.status, 2);
+        EXPECT_THAT(named.err, HasSubstr("The mapping profile pipe is a pipe"));
+    }
+    const ProcessResult unnamed = RunProcess(
+        {"bash", "-c", "\"$0\" export one.aml -o out.wpx --profile <(\"$0\" profile print --default)",
+         WXBRG_PROGRAM},
+        {"", folder.Path(), environment});
+    EXPECT_EQ(unnamed.status, 2);
+    EXPECT_THAT(unnamed.err, HasSubstr(" is a pipe, and an export reads the profile more than once"));
 }
 
 TEST_F(ProfileProgram, DiffTellsWhatAProfileChangesAgainstTheBuiltInRules) {

@@ -64,22 +64,33 @@ TEST_F(StoppedExport, InTheRunEarlierFilesStayAndWhatWasWrittenIsKept) {
     }
 }
 
-TEST(StoppedExportProgram, WaitingForTheReaderOfAPipeIsStopped) {
-    struct Folder : ProgramTest {
-        void TestBody() override {}
-        using ProgramTest::environment;
-        using ProgramTest::folder;
-        using ProgramTest::WriteOneModel;
-    } test;
-    test.WriteOneModel();
-    const std::string script =
-        std::string("mkfifo pipe; ") + WXBRG_PROGRAM +
-        " export one.aml -o pipe --log out.log & "
-        "until grep -qs WXB03110I .out.log.wxbrg-new; do sleep 0.01; done; kill -TERM $!; wait $!";
-    const ProcessResult result = RunProcess({"sh", "-c", script}, {"", test.folder.Path(), test.environment});
+class StoppedExportProgram : public ProgramTest {
+  protected:
+    StoppedExportProgram() { WriteOneModel(); }
+    /// Starts the program in a shell, and stops it by TERM once `ready` holds.
+    ProcessResult Stop(const std::string& arguments, const std::string& ready) {
+        const std::string script = "mkfifo pipe; " WXBRG_PROGRAM " " + arguments + " 2>err & until " + ready +
+                                   "; do sleep 0.01; done; kill -TERM $!; wait $!; status=$?; cat err >&2; "
+                                   "exit $status";
+        return RunProcess({"sh", "-c", script}, {"", folder.Path(), environment});
+    }
+};
+
+TEST_F(StoppedExportProgram, WaitingForTheReaderOfAPipeIsStopped) {
+    const ProcessResult result =
+        Stop("export one.aml -o pipe --log out.log", "grep -qs WXB03110I .out.log.wxbrg-new");
     EXPECT_EQ(result.status, 128 + SIGTERM) << result.err;
     EXPECT_THAT(result.err, HasSubstr("The export is not complete: pipe was not written"));
-    EXPECT_FALSE(std::filesystem::exists(test.folder / "out.log"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "out.log"));
+}
+
+TEST_F(StoppedExportProgram, WaitingForTheWriterOfAPipeIsSaidAndStopped) {
+    const ProcessResult result =
+        Stop("export pipe -o out.wpx", "grep -qs waiting err && grep -qs '^State:.S' /proc/$!/status");
+    EXPECT_EQ(result.status, 128 + SIGTERM) << result.err;
+    EXPECT_EQ(result.err,
+              "wxbrg: pipe is a pipe: waiting for its writer.\n"
+              "wxbrg: The run was stopped by the signal 15.\n");
 }
 
 }  // namespace
