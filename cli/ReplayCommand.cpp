@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "cli/CauseText.h"
 #include "cli/ExitStatus.h"
 #include "cli/FolderFileSystem.h"
 #include "cli/InputKeepingFileDialog.h"
@@ -154,6 +155,7 @@ int RunReplayCommand(const ReplayArguments& given, const ToolEnvironment& enviro
         throw UsageError(TextOf(folder / "answers") + ": " + *error + ".");
     TranscribeEnding(report, environment.out);
     ReportProgramFailure(report, environment.err);
+    ReportCause(report, environment.err);
     WriteOptions(ready.store, out / "options", environment.fileSystem);
     return ExitStatus::normal;
 }

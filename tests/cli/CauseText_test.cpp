@@ -7,7 +7,10 @@
 #include <set>
 #include <sstream>
 
+#include "cli/Program.h"
+#include "options/OptionTable.h"
 #include "tests/cli/ProgramFixture.h"
+#include "tests/cli/TestToolEnvironment.h"
 
 namespace wxbrg::cli {
 namespace {
@@ -115,6 +118,27 @@ TEST_F(Causes, MemoryThatRunsOutIsNamed) {
         EXPECT_THAT(result.err, testing::Not(HasSubstr("bad_alloc"))) << megabytes;
     }
     EXPECT_GT(failed, 0);
+}
+
+TEST(CauseInWindows, IsShownInAWindowOfItsOwn) {
+    const TemporaryFolder folder;
+    folder.Write("one.aml", SmallExport({{"{m1}", "Orders"}}));
+    TestToolEnvironment tool;
+    tool.languageLibraries.Put("wxbrgENU.dll", {});
+    tool.environment.programDirectory = folder.Path().string();
+    tool.profileStore.Write(programKey, repositoryPathValue, folder.Path().string());
+    tool.environment.dialogs = [&, make = tool.environment.dialogs] {
+        Dialogs dialogs = make();
+        dialogs.inWindows = true;
+        return dialogs;
+    };
+    const std::string full = folder.NameOf("full.wpx");
+    std::filesystem::create_symlink("/dev/full", full);
+    tool.in.str("o\n" + full + "\ny\n\n\n");
+    EXPECT_EQ(RunProgram({"/DB=one", "/SEL={m1},Orders,13", "/LOC=1033"}, tool.environment), 1);
+    EXPECT_THAT(tool.out.str(), HasSubstr("\n--- ARIS to Tarnlight Workflow Bridge\n  " + full +
+                                          ": No space left on device (28). "));
+    EXPECT_EQ(tool.err.str(), "");
 }
 
 TEST_F(Causes, ANameTooShortForALogIsNamedBehindTheBox) {

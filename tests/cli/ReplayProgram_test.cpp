@@ -39,6 +39,14 @@ TEST_F(ReplayProgram, WritesTheFilesOfTheRunAndTheOptionsBehindIt) {
     EXPECT_EQ(folder.Read("out/options"), "Language=s:TST\nUseOtherSettings=0\n");
 }
 
+TEST_F(ReplayProgram, TheCauseOfAFailureIsNamedBehindTheTranscript) {
+    folder.Write("case/answers", "options ok\nfile none/result.wpx\n");
+    const ProcessResult result = Replay();
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, HasSubstr("{\"exit\": \"unknown failure\", \"number\": 76, "));
+    EXPECT_THAT(result.err, HasSubstr("none/result.wpx: No such file or directory (2). "));
+}
+
 TEST_F(ReplayProgram, OptionsOfTheCaseCountAndThoseOfTheUserDoNot) {
     EXPECT_EQ(Run({"options", "set", "ConvertNames", "0"}).status, 0);
     EXPECT_EQ(Replay().out, normalExit);

@@ -64,6 +64,11 @@ std::string InHexadecimal(std::string_view bytes) {
     return text;
 }
 
+/// Whether a text is the one line that says why a run has failed; it depends on the system.
+bool IsCause(std::string_view text) {
+    return text.starts_with("wxbrg: ") && text.find('\n') == text.size() - 1;
+}
+
 std::string FileDifference(const std::string& name, const std::string& expected, const std::string& got) {
     if (name != transcriptName) return TextDifference(expected, got);
     try {
@@ -78,7 +83,8 @@ std::string FileDifference(const std::string& name, const std::string& expected,
 std::string Difference(const Files& expected, const ReplayOutcome& outcome) {
     std::string text;
     if (outcome.status != 0) text += "wxbrg ended with status " + std::to_string(outcome.status) + ".\n";
-    if (!outcome.err.empty()) text += "wxbrg wrote to its standard error:\n" + Visible(outcome.err) + "\n";
+    if (!outcome.err.empty() && !IsCause(outcome.err))
+        text += "wxbrg wrote to its standard error:\n" + Visible(outcome.err) + "\n";
     std::set<std::string> names;
     for (const Files* files : {&expected, &outcome.files})
         for (const auto& [name, bytes] : *files) names.insert(name);

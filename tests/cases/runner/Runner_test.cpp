@@ -49,6 +49,11 @@ TEST(Difference, TranscriptsCountByWhatTheySay) {
               "+    1  {\"exit\": \"ä\", \"number\": 7}\n");
 }
 
+TEST(Difference, TheCauseOfAFailedRunIsNone) {
+    EXPECT_EQ(Difference({}, {0, "wxbrg: a.wpx: No such file or directory (2).\n", {}}), "");
+    EXPECT_THAT(Difference({}, {0, "wxbrg: a\nb\n", {}}), HasSubstr("standard error"));
+}
+
 TEST(Difference, AProgramThatFailsIsReported) {
     EXPECT_EQ(Difference({}, {2, "no such case", {}}),
               "wxbrg ended with status 2.\n"
