@@ -24,5 +24,5 @@ if [ $# -eq 0 ]; then
 fi
 
 install_packages "${build_packages[@]}" clang libclang-rt-14-dev
-build fuzz
+build fuzz "${@/#/wxbrg_fuzz_}"
 for target in "$@"; do fuzz "$target" "$seconds"; done
