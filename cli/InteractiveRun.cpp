@@ -34,7 +34,8 @@ void ReportStore(const std::string& problem, const std::string& consequence, Mes
 void ShowCause(const RunReport& report, const Dialogs& dialogs, std::ostream& err) {
     const std::string cause = report.ending == RunEnding::normal ? std::string() : CauseText(report.cause);
     if (dialogs.inWindows && !cause.empty())
-        dialogs.messageBox->Show(productName, cause, BoxStyle::ok + Severity::information);
+        dialogs.messageBox->Show(productName, cause,
+                                 BoxStyle::ok + Severity::information + BoxStyle::foreground);
     else
         ReportCause(report, err);
 }
@@ -56,7 +57,6 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
     const std::unique_ptr<CodePage> codePage = environment.codePage(std::nullopt);
     const std::unique_ptr<Progress> progress = environment.progress();
     const Dialogs dialogs = environment.dialogs();
-    ReportStore(StoreProblem(environment.profileStore), "The default options count: ", *dialogs.messageBox);
     const std::unique_ptr<aris::Automation> automation = environment.folderAutomation(
         RepositoryFolder(environment.profileStore), ProgressOf(*progress, "the database"));
     InputKeepingFileDialog fileDialog(*dialogs.fileDialog,
@@ -70,12 +70,18 @@ int RunInteractively(const std::string& commandLine, const ToolEnvironment& envi
                                                  .optionsFormView = *dialogs.optionsFormView,
                                                  .helpViewer = *dialogs.helpViewer,
                                                  .progress = *progress});
+    request.atBegin = [&] {
+        ReportStore(StoreProblem(environment.profileStore),
+                    "The default options count: ", *dialogs.messageBox);
+    };
+    request.atEnd = [&](const RunReport& report) {
+        progress->Report({}, 0, 0);
+        ReportStore(environment.profileStore.TakeWriteProblem(),
+                    "Not everything could be stored: ", *dialogs.messageBox);
+        ReportProgramFailure(report, environment.err);
+        ShowCause(report, dialogs, environment.err);
+    };
     const RunReport report = RunExport(request, platform, *automation);
-    progress->Report({}, 0, 0);
-    ReportStore(environment.profileStore.TakeWriteProblem(),
-                "Not everything could be stored: ", *dialogs.messageBox);
-    ReportProgramFailure(report, environment.err);
-    ShowCause(report, dialogs, environment.err);
     ReportLostCharacters(*codePage, environment.err);
     return ExitStatusOf(report, false);
 }

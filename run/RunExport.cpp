@@ -58,9 +58,11 @@ RunReport RunExport(const RunRequest& request, Platform& platform, aris::Automat
     gBlock.gPlatform = &platform;
     gBlock.gAutomation = &automation;
     gBlock.gRunRequest = &request;
-    OnReservedStack(request.stackSize, [](const char* end) {
+    OnReservedStack(request.stackSize, [&request](const char* end) {
         gBlock.gStackEnd = end;
+        if (request.atBegin) request.atBegin();
         RunToItsEnd(Main);
+        if (request.atEnd) request.atEnd(gBlock.gRunReport);
     });
     RunReport report = std::move(gBlock.gRunReport);
     RenewGlobals();

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,16 +22,6 @@ struct ExportSelection {
     std::string registry;
     std::int32_t locale = 0;
     std::vector<ARISModel> models;
-};
-
-/// What a front end asks of a run.
-struct RunRequest {
-    /// The text behind the program's name: the switches /USR, /DB, /SVR, /REG, /SEL, /LOC. It counts when
-    /// there is no `selection`.
-    std::string commandLine;
-    std::optional<ExportSelection> selection;
-    /// Bytes of address space for the stack of the run.
-    std::size_t stackSize = runStackSize;
 };
 
 /// How a run ended.
@@ -65,6 +56,20 @@ struct RunReport {
     std::uint64_t objectsWritten = 0;  ///< the count of note 3110; 0 unless the run ended normally
     SeverityCounts notes;              ///< notes written to the log
     SeverityCounts boxes;              ///< message boxes shown
+};
+
+/// What a front end asks of a run.
+struct RunRequest {
+    /// The text behind the program's name: the switches /USR, /DB, /SVR, /REG, /SEL, /LOC. It counts when
+    /// there is no `selection`.
+    std::string commandLine;
+    std::optional<ExportSelection> selection;
+    /// Bytes of address space for the stack of the run.
+    std::size_t stackSize = runStackSize;
+    // What the front end itself does before and behind the run, on the run's own thread: windows belong to
+    // the thread that has opened the first of them. Both may be empty.
+    std::function<void()> atBegin = {};
+    std::function<void(const RunReport&)> atEnd = {};
 };
 
 /// One whole export, from the language library to the end of the run: the entry that every front end goes

@@ -116,6 +116,30 @@ TEST_F(DesktopProgram, CancelIsAskedAboutInABoxAndEndsTheRun) {
     EXPECT_FALSE(Exists("out.wpx"));
 }
 
+TEST_F(DesktopProgram, TheCauseOfAFailureIsShownInAWindowBehindItsBox) {
+    fs::create_symlink("/dev/full", folder / "full.wpx");
+    std::future<ProcessResult> run = Start();
+    Press("export options", {"Return"});
+    const std::string fileDialog = Press("Save As", {"f", "u", "l", "l", "Return"});
+    Press("Save As", {"alt+y"}, fileDialog);  // the question whether to replace the file
+    const std::string box = Press("^ARIS to Tarnlight Workflow Bridge$", {"Return"});
+    WindowOf("^ARIS to Tarnlight Workflow Bridge$", box);
+    Photograph("cause.png");
+    Press("^ARIS to Tarnlight Workflow Bridge$", {"Return"}, box);
+    const ProcessResult result = run.get();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, Not(HasSubstr("No space left on device")));
+}
+
+TEST_F(DesktopProgram, AStoreThatCannotBeReadIsShownInAWindowAndTheRunGoesOn) {
+    fs::create_directories(folder / "settings" / "wxbrg" / "registry.reg");
+    std::future<ProcessResult> run = Start();
+    Press("^wxbrg$", {"Return"});
+    Press("export options", {"Escape"});
+    Press("^ARIS to Tarnlight Workflow Bridge$", {"alt+y"});
+    EXPECT_EQ(run.get().status, 130);
+}
+
 TEST_F(DesktopProgram, AMissingLanguageLibraryIsToldInAWindowAndEndsTheRun) {
     EXPECT_EQ(Run({"options", "set", "Language", "XYZ"}).status, 0);
     std::future<ProcessResult> run = Start();
